@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+// The bytes of the Protocol Buffers wire format: varints in and out, tags, and the step over a
+// field that nobody knows. Positions and offsets are 32-bit and wrap like the lengths they count.
+
+#pragma once
+
+#include "wire/result.h"
+
+#include <stdint.h>
+
+namespace [[gnu::visibility("hidden")]] tarn {
+
+enum WireType : uint32_t {
+    kVarint = 0,
+    kFixed64 = 1,
+    kLengthDelimited = 2,
+    kFixed32 = 5,
+};
+
+constexpr uint32_t make_tag(uint32_t number, WireType type)
+{
+    return number << 3 | type;
+}
+
+constexpr uint32_t wire_type_of(uint32_t tag)
+{
+    return tag & 7;
+}
+
+constexpr uint32_t field_number_of(uint32_t tag)
+{
+    return tag >> 3;
+}
+
+// How many bytes a value takes: one for every seven bits. The quotient by 64 is
+// that of (bits + 6) / 7 for all lengths up to 64, without a division.
+constexpr uint32_t wire_varint32_size(uint32_t value)
+{
+    const uint32_t bits = 32 - static_cast<uint32_t>(__builtin_clz(value | 1));
+    return (bits * 9 + 64) / 64;
+}
+
+constexpr uint32_t wire_varint64_size(uint64_t value)
+{
+    const uint32_t bits = 64 - static_cast<uint32_t>(__builtin_clzll(value | 1));
+    return (bits * 9 + 64) / 64;
+}
+
+// Readers. They move `position` and store `value` (which may be null) only when they succeed. A
+// varint may be longer than its value needs: surplus bits and bytes are dropped without complaint.
+int32_t wire_read_varint32(uint32_t *value, uint32_t *position, const uint8_t *buffer,
+                           uint32_t length);
+int32_t wire_read_varint64(uint64_t *value, uint32_t *position, const uint8_t *buffer,
+                           uint32_t length);
+
+// Steps over the value of an unknown field. Deliberately lenient: the new position may lie beyond
+// the end, where it ends the message, or wrap around and lie before the field.
+int32_t wire_skip_field(uint32_t wire_type, uint32_t *position, const uint8_t *buffer,
+                        uint32_t length);
+
+// Writers. A byte is stored only where it is below the capacity, but every byte counts: the offset
+// behind the whole value is returned either way, so that a null buffer of capacity 0 measures.
+uint32_t wire_put_byte(uint8_t value, uint32_t offset, uint8_t *buffer, uint32_t capacity);
+uint32_t wire_put_varint8(uint8_t value, uint32_t offset, uint8_t *buffer, uint32_t capacity);
+uint32_t wire_put_varint32(uint32_t value, uint32_t offset, uint8_t *buffer, uint32_t capacity);
+uint32_t wire_put_varint64(uint64_t value, uint32_t offset, uint8_t *buffer, uint32_t capacity);
+
+// A tag takes the narrowest writer that holds it.
+uint32_t wire_put_tag(uint32_t tag, uint32_t offset, uint8_t *buffer, uint32_t capacity);
+
+} // namespace tarn
