@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+// The C headers.
+#include "output.hpp"
+
+#include <algorithm>
+#include <cctype>
+
+namespace generator {
+
+namespace {
+
+constexpr char kIndent[] = "    ";
+
+std::string banner(const std::string &source, const std::string &comment)
+{
+    std::string out = "/* SPDX-License-Identifier: MIT */\n"
+                      "/* Generated from " +
+                      source +
+                      " by generator/regenerate. Do not edit: change the schema and run"
+                      " it. */\n";
+    return out + "\n/** @file\n" + wrapped(comment, " * ") + " */\n";
+}
+
+std::string guard(const std::string &path)
+{
+    std::string out = "TARN_";
+    for (const char c : path)
+        out += std::isalnum(static_cast<unsigned char>(c)) != 0
+                   ? static_cast<char>(std::toupper(static_cast<unsigned char>(c)))
+                   : '_';
+    return out + "_H";
+}
+
+std::string doc_comment(const std::string &text, const std::string &indent)
+{
+    const std::string line = indent + "/** " + text + " */\n";
+    if (line.size() <= 101)
+        return line;
+    std::string body = wrapped(text, indent + " *  ");
+    return indent + "/** " + body.substr(indent.size() + 4, body.size() - indent.size() - 5) +
+           " */\n";
+}
+
+std::string member_lines(const Member &member)
+{
+    std::string out = doc_comment("Field " + std::to_string(member.number) + ", " +
+                                      kind_words(member) + ". " + member.comment,
+                                  kIndent);
+    out += kIndent;
+    if (member.kind == Kind::uint64)
+        out += "TARN_ALIGNED_8 ";
+    out += member_type(member) + member.name + ";\n";
+    if (member.second_name.empty())
+        return out;
+    const std::string what = member.kind == Kind::bytes ? "bytes at " : "elements of ";
+    return out + doc_comment("Number of " + what + member.name + ".", kIndent) + kIndent +
+           "uint32_t " + member.second_name + ";\n";
+}
+
+std::string flag_line(const Member &member)
+{
+    return kIndent + ("unsigned has_" + member.name) + " : 1;\n";
+}
+
+std::string structure(const Record &record)
+{
+    std::string out = "\n" + doc_comment(record.comment, "");
+    if (record.members.empty())
+        return out + "typedef struct " + record.name + " " + record.name + ";\n";
+    out += "typedef struct " + record.name + " {\n";
+    for (const Member &member : record.members)
+        out += member_lines(member);
+    for (const Member &member : record.members)
+        out += flag_line(member);
+    return out + "} " + record.name + ";\n";
+}
+
+} // namespace
+
+std::string c_header(const File &file)
+{
+    const std::string name = guard(file.path);
+    std::string out = banner(file.path + ".proto", file.comment);
+    out += "\n#ifndef " + name + "\n#define " + name + "\n\n";
+    for (const std::string &import : file.imports)
+        out += "#include \"" + import + ".h\"\n";
+    out += "#include \"runtime/record.h\"\n";
+    for (const Record &record : file.records)
+        out += structure(record) + "TARN_DECLARE_OPERATIONS(" + record.name + ");\n";
+    return out + "\n#endif\n";
+}
+
+std::string umbrella_header(const std::vector<File> &files)
+{
+    std::string out = banner("ethsw_mgmt/*.proto", "All record types of the set.");
+    const std::string name = guard("ethsw_mgmt/ethsw_mgmt");
+    out += "\n#ifndef " + name + "\n#define " + name + "\n\n";
+    std::vector<std::string> paths;
+    for (const File &file : files)
+        paths.push_back(file.path);
+    std::sort(paths.begin(), paths.end());
+    for (const std::string &path : paths)
+        out += "#include \"" + path + ".h\"\n";
+    return out + "\n#endif\n";
+}
+
+} // namespace generator
