@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// Generated from ethsw_mgmt/classification.proto by generator/regenerate. Do not edit: change the schema and run it.
+#include "ethsw_mgmt/classification.hpp"
+
+#include "runtime/operations.hpp"
+
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_add_pcl_flow);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_add_pcl_flow_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_clear_pcl_flow);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_clear_pcl_flow_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_del_pcl_flow);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_del_pcl_flow_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_dynamic_counter_per_up_data);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_get_pcl);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_pcl_cfg_info);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_pcl_rule_match);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_pcl_rule_action);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_policing);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_pcl_rule_info);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_get_pcl_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_policer_dynamic_counter_stats);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_port_get_policer_statistics);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_port_policer_statistics_info);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_port_policer_statistics_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_set_policing_sdr);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_set_policing_dynamic_counters);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_set_policing);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_set_policing_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_set_security);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_set_security_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_pcl_flow);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_pcl_flow_port_info);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_pcl_flow_info);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_pcl_flow_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_policing);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_policing_port);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_policing_sdr);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_policing_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_security);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_security_au);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_security_cpu);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_security_resp);

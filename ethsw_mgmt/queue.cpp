@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+// Generated from ethsw_mgmt/queue.proto by generator/regenerate. Do not edit: change the schema and run it.
+#include "ethsw_mgmt/queue.hpp"
+
+#include "runtime/operations.hpp"
+
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_clear_txq_stats);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_clear_txq_stats_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_bcm_gbl_cfg);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_bcm_per_cosq_cfg);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_bcm_port_cfg);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_cfg_global);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_profile_per_tc);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_cfg_profile);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_enq_global);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_port);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_stats_pg);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_stats_sdr);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_stats_color);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_stats_tc);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_stats_port);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_show_txq_resp);

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// Generated from ethsw_mgmt/sdr.proto by generator/regenerate. Do not edit: change the schema and run it.
+#include "ethsw_mgmt/sdr.hpp"
+
+#include "runtime/operations.hpp"
+
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_get_sdr_info);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_glbl_get_sdr_statistics);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_sdr_statistics_tc_data);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_sdr_statistics_pg_info);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_glbl_sdr_statistics_info);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_glbl_sdr_statistics_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_port_clear_sdr_statistics);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_port_clear_sdr_statistics_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_port_get_sdr_statistics);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_sdr_statistics_sdr_info);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_port_sdr_statistics_info);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_port_sdr_statistics_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_sdr_vlan);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_sdr_data);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_sdr_cfg);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_sdr_cfg_result);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_sdr_cfg_resp);
+TARN_DEFINE_OPERATIONS(tarn_ethsw_mgmt_sdr_info);
