@@ -89,7 +89,7 @@ std::string abi_table(const std::vector<File> &files, const File &foreign, const
     for (const File &file : files)
         for (const Record &record : file.records)
             table.add(record);
-    return generated_banner("ethsw_mgmt/*.proto") +
+    return generated_banner("the schema") +
            wrapped("Record layouts on " + target.name +
                        ": RECORD gives a size, MEMBER an offset, FLAGS the offset of the first "
                        "byte of presence flags; EMPTY types have no structure. A change here is "

@@ -13,12 +13,8 @@ constexpr char kIndent[] = "    ";
 
 std::string banner(const std::string &source, const std::string &comment)
 {
-    std::string out = "/* SPDX-License-Identifier: MIT */\n"
-                      "/* Generated from " +
-                      source +
-                      " by generator/regenerate. Do not edit: change the schema and run"
-                      " it. */\n";
-    return out + "\n/** @file\n" + wrapped(comment, " * ") + " */\n";
+    return "/* SPDX-License-Identifier: MIT */\n/* " + generated_from(source) +
+           " */\n\n/** @file\n" + wrapped(comment, " * ") + " */\n";
 }
 
 std::string guard(const std::string &path)
@@ -31,14 +27,14 @@ std::string guard(const std::string &path)
     return out + "_H";
 }
 
+// In one line where it fits, else wrapped with its end on a line of its own.
 std::string doc_comment(const std::string &text, const std::string &indent)
 {
-    const std::string line = indent + "/** " + text + " */\n";
-    if (line.size() <= 101)
-        return line;
-    std::string body = wrapped(text, indent + " *  ");
-    return indent + "/** " + body.substr(indent.size() + 4, body.size() - indent.size() - 5) +
-           " */\n";
+    constexpr size_t kColumns = 100;
+    const std::string line = indent + "/** " + text + " */";
+    if (line.size() <= kColumns)
+        return line + "\n";
+    return indent + "/**\n" + wrapped(text, indent + " * ") + indent + " */\n";
 }
 
 std::string member_lines(const Member &member)
@@ -92,7 +88,7 @@ std::string c_header(const File &file)
 
 std::string umbrella_header(const std::vector<File> &files)
 {
-    std::string out = banner("ethsw_mgmt/*.proto", "All record types of the set.");
+    std::string out = banner("the schema", "All record types of the set.");
     const std::string name = guard("ethsw_mgmt/ethsw_mgmt");
     out += "\n#ifndef " + name + "\n#define " + name + "\n\n";
     std::vector<std::string> paths;

@@ -28,7 +28,8 @@ struct Target {
 
 std::string abi_table(const std::vector<File> &files, const File &foreign, const Target &target);
 
-// The first lines of a generated file.
+// What a generated file says of itself, and the first lines of one in C++.
+std::string generated_from(const std::string &source);
 std::string generated_banner(const std::string &source);
 
 // Comment lines of at most 100 columns, each beginning with `prefix`.

@@ -46,7 +46,7 @@ std::string test_tables(const std::vector<File> &files)
             rows += record_row(record);
         }
     }
-    return generated_banner("ethsw_mgmt/*.proto") +
+    return generated_banner("the schema") +
            "#include \"tests/catalogue/catalogue.hpp\"\n\n"
            "#include \"ethsw_mgmt/ethsw_mgmt.h\"\n\n#include <stddef.h>\n\n"
            "namespace catalogue {\n\nnamespace {\n\n" +
