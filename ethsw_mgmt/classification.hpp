@@ -220,7 +220,13 @@ struct Schema<tarn_ethsw_mgmt_pcl_rule_info> {
         field<Kind::message, decltype(Record::policing_5)>(5, offsetof(Record, policing_5)),
         field<Kind::message, decltype(Record::policing_6)>(6, offsetof(Record, policing_6)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_pcl_rule_match, tarn_ethsw_mgmt_pcl_rule_match, tarn_ethsw_mgmt_pcl_rule_action, tarn_ethsw_mgmt_policing, tarn_ethsw_mgmt_policing, tarn_ethsw_mgmt_policing>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_pcl_rule_match,
+        tarn_ethsw_mgmt_pcl_rule_match,
+        tarn_ethsw_mgmt_pcl_rule_action,
+        tarn_ethsw_mgmt_policing,
+        tarn_ethsw_mgmt_policing,
+        tarn_ethsw_mgmt_policing>;
 };
 
 template <>
@@ -233,7 +239,10 @@ struct Schema<tarn_ethsw_mgmt_get_pcl_resp> {
         field<Kind::repeated_message, decltype(Record::rules_4)>(4, offsetof(Record, rules_4)),
         field<Kind::repeated_message, decltype(Record::rules_5)>(5, offsetof(Record, rules_5)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_pcl_cfg_info, tarn_ethsw_mgmt_pcl_rule_info, tarn_ethsw_mgmt_pcl_rule_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_pcl_cfg_info,
+        tarn_ethsw_mgmt_pcl_rule_info,
+        tarn_ethsw_mgmt_pcl_rule_info>;
 };
 
 template <>
@@ -243,7 +252,8 @@ struct Schema<tarn_ethsw_mgmt_policer_dynamic_counter_stats> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::per_up_data)>(2, offsetof(Record, per_up_data)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_dynamic_counter_per_up_data>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_dynamic_counter_per_up_data>;
 };
 
 template <>
@@ -282,7 +292,8 @@ struct Schema<tarn_ethsw_mgmt_port_policer_statistics_info> {
         field<Kind::uint32, decltype(Record::field_21)>(21, offsetof(Record, field_21)),
         field<Kind::boolean, decltype(Record::field_22)>(22, offsetof(Record, field_22)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_policer_dynamic_counter_stats>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_policer_dynamic_counter_stats>;
 };
 
 template <>
@@ -293,7 +304,8 @@ struct Schema<tarn_ethsw_mgmt_port_policer_statistics_resp> {
         field<Kind::repeated_message, decltype(Record::statistics)>(2, offsetof(Record, statistics)),
         field<Kind::boolean, decltype(Record::field_3)>(3, offsetof(Record, field_3)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_port_policer_statistics_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_port_policer_statistics_info>;
 };
 
 template <>
@@ -340,7 +352,9 @@ struct Schema<tarn_ethsw_mgmt_set_policing> {
         field<Kind::uint32, decltype(Record::field_14)>(14, offsetof(Record, field_14)),
         field<Kind::uint32, decltype(Record::field_15)>(15, offsetof(Record, field_15)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_set_policing_sdr, tarn_ethsw_mgmt_set_policing_dynamic_counters>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_set_policing_sdr,
+        tarn_ethsw_mgmt_set_policing_dynamic_counters>;
 };
 
 template <>
@@ -405,7 +419,8 @@ struct Schema<tarn_ethsw_mgmt_show_pcl_flow_info> {
         field<Kind::repeated_message, decltype(Record::ports)>(3, offsetof(Record, ports)),
         field<Kind::boolean, decltype(Record::field_4)>(4, offsetof(Record, field_4)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_show_pcl_flow_port_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_show_pcl_flow_port_info>;
 };
 
 template <>
@@ -415,7 +430,8 @@ struct Schema<tarn_ethsw_mgmt_show_pcl_flow_resp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::flows)>(2, offsetof(Record, flows)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_show_pcl_flow_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_show_pcl_flow_info>;
 };
 
 template <>
@@ -489,7 +505,10 @@ struct Schema<tarn_ethsw_mgmt_show_policing_resp> {
         field<Kind::uint32, decltype(Record::field_17)>(17, offsetof(Record, field_17)),
         field<Kind::boolean, decltype(Record::field_18)>(18, offsetof(Record, field_18)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_show_policing_sdr, tarn_ethsw_mgmt_show_policing_port, tarn_ethsw_mgmt_show_policing_port>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_show_policing_sdr,
+        tarn_ethsw_mgmt_show_policing_port,
+        tarn_ethsw_mgmt_show_policing_port>;
 };
 
 template <>
@@ -533,7 +552,9 @@ struct Schema<tarn_ethsw_mgmt_show_security_resp> {
         field<Kind::repeated_message, decltype(Record::cpus)>(4, offsetof(Record, cpus)),
         field<Kind::uint32, decltype(Record::field_5)>(5, offsetof(Record, field_5)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_show_security_au, tarn_ethsw_mgmt_show_security_cpu>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_show_security_au,
+        tarn_ethsw_mgmt_show_security_cpu>;
 };
 
 } // namespace tarn

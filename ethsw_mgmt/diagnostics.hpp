@@ -130,7 +130,15 @@ struct Schema<tarn_ethsw_mgmt_debug_get_health_state_rsp> {
         field<Kind::boolean, decltype(Record::field_44)>(44, offsetof(Record, field_44)),
         field<Kind::boolean, decltype(Record::field_45)>(45, offsetof(Record, field_45)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_timespec, tarn_ethsw_mgmt_timespec, tarn_ethsw_mgmt_timespec, tarn_ethsw_mgmt_timespec, tarn_ethsw_mgmt_timespec, tarn_ethsw_mgmt_timespec, tarn_ethsw_mgmt_port_link_fault_status, tarn_ethsw_mgmt_port_health_history_entry>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_timespec,
+        tarn_ethsw_mgmt_timespec,
+        tarn_ethsw_mgmt_timespec,
+        tarn_ethsw_mgmt_timespec,
+        tarn_ethsw_mgmt_timespec,
+        tarn_ethsw_mgmt_timespec,
+        tarn_ethsw_mgmt_port_link_fault_status,
+        tarn_ethsw_mgmt_port_health_history_entry>;
 };
 
 template <>
@@ -169,7 +177,8 @@ struct Schema<tarn_ethsw_mgmt_debug_get_hw_counters_resp> {
         field<Kind::uint64, decltype(Record::field_24)>(24, offsetof(Record, field_24)),
         field<Kind::boolean, decltype(Record::field_25)>(25, offsetof(Record, field_25)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_core_stats>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_core_stats>;
 };
 
 template <>
@@ -353,7 +362,8 @@ struct Schema<tarn_ethsw_mgmt_reg_column_data> {
         field<Kind::uint32, decltype(Record::field_2)>(2, offsetof(Record, field_2)),
         field<Kind::repeated_message, decltype(Record::values)>(3, offsetof(Record, values)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_reg_value_data>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_reg_value_data>;
 };
 
 template <>
@@ -363,7 +373,8 @@ struct Schema<tarn_ethsw_mgmt_reg_section_data> {
         field<Kind::string, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::columns)>(2, offsetof(Record, columns)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_reg_column_data>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_reg_column_data>;
 };
 
 template <>
@@ -373,7 +384,8 @@ struct Schema<tarn_ethsw_mgmt_reg_info_rsp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::sections)>(2, offsetof(Record, sections)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_reg_section_data>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_reg_section_data>;
 };
 
 } // namespace tarn

@@ -135,7 +135,11 @@ struct Schema<tarn_ethsw_mgmt_bridge_get_counters_response> {
         field<Kind::repeated_message, decltype(Record::sec_breach_counters)>(4, offsetof(Record, sec_breach_counters)),
         field<Kind::repeated_message, decltype(Record::sec_breach_details)>(5, offsetof(Record, sec_breach_details)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_bridge_ingress_counters, tarn_ethsw_mgmt_bridge_egress_counters, tarn_ethsw_mgmt_bridge_sec_breach_counters, tarn_ethsw_mgmt_bridge_sec_breach_details>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_bridge_ingress_counters,
+        tarn_ethsw_mgmt_bridge_egress_counters,
+        tarn_ethsw_mgmt_bridge_sec_breach_counters,
+        tarn_ethsw_mgmt_bridge_sec_breach_details>;
 };
 
 template <>
@@ -231,7 +235,9 @@ struct Schema<tarn_ethsw_mgmt_fdb_get_counters_response> {
         field<Kind::message, decltype(Record::fdb_counters)>(2, offsetof(Record, fdb_counters)),
         field<Kind::repeated_message, decltype(Record::table_counters)>(3, offsetof(Record, table_counters)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_bridge_fdb_counters, tarn_ethsw_mgmt_fdb_table_counters>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_bridge_fdb_counters,
+        tarn_ethsw_mgmt_fdb_table_counters>;
 };
 
 template <>
@@ -276,7 +282,8 @@ struct Schema<tarn_ethsw_mgmt_fdb_get_table_entry_resp> {
         field<Kind::uint32, decltype(Record::field_3)>(3, offsetof(Record, field_3)),
         field<Kind::string, decltype(Record::field_4)>(4, offsetof(Record, field_4)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_fdb_table_entry>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_fdb_table_entry>;
 };
 
 template <>
@@ -327,7 +334,8 @@ struct Schema<tarn_ethsw_mgmt_port_get_vlan_info_resp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::vlans)>(2, offsetof(Record, vlans)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_port_vlan_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_port_vlan_info>;
 };
 
 template <>
@@ -384,7 +392,8 @@ struct Schema<tarn_ethsw_mgmt_port_vlan_rule_info> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::vlans)>(2, offsetof(Record, vlans)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_port_vlan_rule_vlan_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_port_vlan_rule_vlan_info>;
 };
 
 template <>
@@ -394,7 +403,8 @@ struct Schema<tarn_ethsw_mgmt_port_vlan_rules_resp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::rules)>(2, offsetof(Record, rules)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_port_vlan_rule_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_port_vlan_rule_info>;
 };
 
 template <>
@@ -422,7 +432,8 @@ struct Schema<tarn_ethsw_mgmt_show_trunk_resp> {
         field<Kind::repeated_message, decltype(Record::members)>(3, offsetof(Record, members)),
         field<Kind::string, decltype(Record::field_4)>(4, offsetof(Record, field_4)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_trunk_member_entry>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_trunk_member_entry>;
 };
 
 template <>
@@ -455,7 +466,8 @@ struct Schema<tarn_ethsw_mgmt_vlan_get_table_entry_resp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::entries)>(2, offsetof(Record, entries)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_vlan_table_entry>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_vlan_table_entry>;
 };
 
 template <>
@@ -487,7 +499,8 @@ struct Schema<tarn_ethsw_mgmt_vlan_translation_get_table_entry_resp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::entries)>(2, offsetof(Record, entries)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_vlan_translation_table_entry>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_vlan_translation_table_entry>;
 };
 
 } // namespace tarn

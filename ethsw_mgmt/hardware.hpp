@@ -225,7 +225,15 @@ struct Schema<tarn_ethsw_mgmt_fpd_info> {
         field<Kind::repeated_message, decltype(Record::cores_9)>(9, offsetof(Record, cores_9)),
         field<Kind::repeated_message, decltype(Record::cores_10)>(10, offsetof(Record, cores_10)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_fpd_core_info, tarn_ethsw_mgmt_fpd_core_info, tarn_ethsw_mgmt_fpd_core_info, tarn_ethsw_mgmt_fpd_core_info, tarn_ethsw_mgmt_fpd_core_info, tarn_ethsw_mgmt_fpd_core_info, tarn_ethsw_mgmt_fpd_core_info, tarn_ethsw_mgmt_fpd_core_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_fpd_core_info,
+        tarn_ethsw_mgmt_fpd_core_info,
+        tarn_ethsw_mgmt_fpd_core_info,
+        tarn_ethsw_mgmt_fpd_core_info,
+        tarn_ethsw_mgmt_fpd_core_info,
+        tarn_ethsw_mgmt_fpd_core_info,
+        tarn_ethsw_mgmt_fpd_core_info,
+        tarn_ethsw_mgmt_fpd_core_info>;
 };
 
 template <>
@@ -358,7 +366,8 @@ struct Schema<tarn_ethsw_mgmt_phy_ucode_version_info_rsp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::versions)>(2, offsetof(Record, versions)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_phy_ucode_version_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_phy_ucode_version_info>;
 };
 
 template <>
@@ -397,7 +406,8 @@ struct Schema<tarn_ethsw_mgmt_serdes_get_manual_tuning_data_rsp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::lanes)>(2, offsetof(Record, lanes)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_serdes_lane_manual_tuning_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_serdes_lane_manual_tuning_info>;
 };
 
 template <>
@@ -455,7 +465,8 @@ struct Schema<tarn_ethsw_mgmt_serdes_get_tuning_data_rsp> {
         field<Kind::uint64, decltype(Record::field_2)>(2, offsetof(Record, field_2)),
         field<Kind::repeated_message, decltype(Record::lanes)>(3, offsetof(Record, lanes)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_serdes_lane_tuning_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_serdes_lane_tuning_info>;
 };
 
 template <>
@@ -516,7 +527,8 @@ struct Schema<tarn_ethsw_mgmt_sfp_summary_response> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::entries)>(2, offsetof(Record, entries)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_sfp_summary_entry>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_sfp_summary_entry>;
 };
 
 } // namespace tarn

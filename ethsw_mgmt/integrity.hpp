@@ -33,7 +33,8 @@ struct Schema<tarn_data_integrity_error_history_entry> {
         field<Kind::uint32, decltype(Record::field_15)>(15, offsetof(Record, field_15)),
         field<Kind::message, decltype(Record::timestamp)>(16, offsetof(Record, timestamp)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_timespec>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_timespec>;
 };
 
 template <>
@@ -54,7 +55,8 @@ struct Schema<tarn_data_integrity_error_info_entry> {
         field<Kind::uint32, decltype(Record::field_12)>(12, offsetof(Record, field_12)),
         field<Kind::message, decltype(Record::timestamp)>(13, offsetof(Record, timestamp)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_timespec>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_timespec>;
 };
 
 template <>
@@ -115,7 +117,8 @@ struct Schema<tarn_ethsw_mgmt_emon_card_entry> {
         field<Kind::string, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::paths)>(2, offsetof(Record, paths)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_emon_path_entry>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_emon_path_entry>;
 };
 
 template <>
@@ -148,7 +151,9 @@ struct Schema<tarn_ethsw_mgmt_event_stats_rsp> {
         field<Kind::uint32, decltype(Record::field_3)>(3, offsetof(Record, field_3)),
         field<Kind::message, decltype(Record::timestamp)>(4, offsetof(Record, timestamp)),
     };
-    using Children = RecordTypes<tarn_event_stats_info, tarn_ethsw_mgmt_timespec>;
+    using Children = RecordTypes<
+        tarn_event_stats_info,
+        tarn_ethsw_mgmt_timespec>;
 };
 
 template <>
@@ -174,7 +179,8 @@ struct Schema<tarn_ethsw_mgmt_fault_stats_rsp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::faults)>(2, offsetof(Record, faults)),
     };
-    using Children = RecordTypes<tarn_faults_stats_info>;
+    using Children = RecordTypes<
+        tarn_faults_stats_info>;
 };
 
 template <>
@@ -195,7 +201,8 @@ struct Schema<tarn_ethsw_mgmt_get_data_integrity_error_history_resp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::entries)>(2, offsetof(Record, entries)),
     };
-    using Children = RecordTypes<tarn_data_integrity_error_history_entry>;
+    using Children = RecordTypes<
+        tarn_data_integrity_error_history_entry>;
 };
 
 template <>
@@ -216,7 +223,8 @@ struct Schema<tarn_ethsw_mgmt_get_data_integrity_error_info_resp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::entries)>(2, offsetof(Record, entries)),
     };
-    using Children = RecordTypes<tarn_data_integrity_error_info_entry>;
+    using Children = RecordTypes<
+        tarn_data_integrity_error_info_entry>;
 };
 
 template <>
@@ -331,7 +339,8 @@ struct Schema<tarn_ethsw_mgmt_show_emon_stats_resp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::cards)>(2, offsetof(Record, cards)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_emon_card_entry>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_emon_card_entry>;
 };
 
 } // namespace tarn

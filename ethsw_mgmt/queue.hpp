@@ -101,7 +101,8 @@ struct Schema<tarn_ethsw_mgmt_show_txq_bcm_port_cfg> {
         field<Kind::uint32, decltype(Record::field_12)>(12, offsetof(Record, field_12)),
         field<Kind::repeated_message, decltype(Record::cosqs)>(13, offsetof(Record, cosqs)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_show_txq_bcm_per_cosq_cfg>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_show_txq_bcm_per_cosq_cfg>;
 };
 
 template <>
@@ -154,7 +155,8 @@ struct Schema<tarn_ethsw_mgmt_show_txq_cfg_profile> {
         field<Kind::uint32, decltype(Record::field_4)>(4, offsetof(Record, field_4)),
         field<Kind::repeated_message, decltype(Record::traffic_classes)>(5, offsetof(Record, traffic_classes)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_show_txq_profile_per_tc>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_show_txq_profile_per_tc>;
 };
 
 template <>
@@ -212,7 +214,8 @@ struct Schema<tarn_ethsw_mgmt_show_txq_stats_sdr> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::pgs)>(2, offsetof(Record, pgs)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_show_txq_stats_pg>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_show_txq_stats_pg>;
 };
 
 template <>
@@ -239,7 +242,8 @@ struct Schema<tarn_ethsw_mgmt_show_txq_stats_tc> {
         field<Kind::uint64, decltype(Record::field_5)>(5, offsetof(Record, field_5)),
         field<Kind::uint64, decltype(Record::field_6)>(6, offsetof(Record, field_6)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_show_txq_stats_color>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_show_txq_stats_color>;
 };
 
 template <>
@@ -254,7 +258,8 @@ struct Schema<tarn_ethsw_mgmt_show_txq_stats_port> {
         field<Kind::uint64, decltype(Record::field_6)>(6, offsetof(Record, field_6)),
         field<Kind::uint64, decltype(Record::field_7)>(7, offsetof(Record, field_7)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_show_txq_stats_tc>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_show_txq_stats_tc>;
 };
 
 template <>
@@ -273,7 +278,15 @@ struct Schema<tarn_ethsw_mgmt_show_txq_resp> {
         field<Kind::repeated_message, decltype(Record::bcm_ports)>(10, offsetof(Record, bcm_ports)),
         field<Kind::uint32, decltype(Record::field_11)>(11, offsetof(Record, field_11)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_show_txq_cfg_global, tarn_ethsw_mgmt_show_txq_cfg_profile, tarn_ethsw_mgmt_show_txq_enq_global, tarn_ethsw_mgmt_show_txq_port, tarn_ethsw_mgmt_show_txq_stats_sdr, tarn_ethsw_mgmt_show_txq_stats_port, tarn_ethsw_mgmt_show_txq_bcm_gbl_cfg, tarn_ethsw_mgmt_show_txq_bcm_port_cfg>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_show_txq_cfg_global,
+        tarn_ethsw_mgmt_show_txq_cfg_profile,
+        tarn_ethsw_mgmt_show_txq_enq_global,
+        tarn_ethsw_mgmt_show_txq_port,
+        tarn_ethsw_mgmt_show_txq_stats_sdr,
+        tarn_ethsw_mgmt_show_txq_stats_port,
+        tarn_ethsw_mgmt_show_txq_bcm_gbl_cfg,
+        tarn_ethsw_mgmt_show_txq_bcm_port_cfg>;
 };
 
 } // namespace tarn

@@ -49,7 +49,8 @@ struct Schema<tarn_ethsw_mgmt_sdr_statistics_pg_info> {
         field<Kind::uint32, decltype(Record::field_3)>(3, offsetof(Record, field_3)),
         field<Kind::repeated_message, decltype(Record::traffic_classes)>(4, offsetof(Record, traffic_classes)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_sdr_statistics_tc_data>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_sdr_statistics_tc_data>;
 };
 
 template <>
@@ -59,7 +60,8 @@ struct Schema<tarn_ethsw_mgmt_glbl_sdr_statistics_info> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::pgs)>(2, offsetof(Record, pgs)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_sdr_statistics_pg_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_sdr_statistics_pg_info>;
 };
 
 template <>
@@ -69,7 +71,8 @@ struct Schema<tarn_ethsw_mgmt_glbl_sdr_statistics_resp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::statistics)>(2, offsetof(Record, statistics)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_glbl_sdr_statistics_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_glbl_sdr_statistics_info>;
 };
 
 template <>
@@ -110,7 +113,8 @@ struct Schema<tarn_ethsw_mgmt_sdr_statistics_sdr_info> {
         field<Kind::uint32, decltype(Record::field_3)>(3, offsetof(Record, field_3)),
         field<Kind::repeated_message, decltype(Record::traffic_classes)>(4, offsetof(Record, traffic_classes)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_sdr_statistics_tc_data>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_sdr_statistics_tc_data>;
 };
 
 template <>
@@ -120,7 +124,8 @@ struct Schema<tarn_ethsw_mgmt_port_sdr_statistics_info> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::sdrs)>(2, offsetof(Record, sdrs)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_sdr_statistics_sdr_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_sdr_statistics_sdr_info>;
 };
 
 template <>
@@ -130,7 +135,8 @@ struct Schema<tarn_ethsw_mgmt_port_sdr_statistics_resp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::statistics)>(2, offsetof(Record, statistics)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_port_sdr_statistics_info>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_port_sdr_statistics_info>;
 };
 
 template <>
@@ -155,7 +161,8 @@ struct Schema<tarn_ethsw_mgmt_sdr_data> {
         field<Kind::uint32, decltype(Record::field_6)>(6, offsetof(Record, field_6)),
         field<Kind::repeated_message, decltype(Record::vlans)>(7, offsetof(Record, vlans)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_sdr_vlan>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_sdr_vlan>;
 };
 
 template <>
@@ -164,7 +171,8 @@ struct Schema<tarn_ethsw_mgmt_sdr_cfg> {
     static constexpr Field fields[] = {
         field<Kind::repeated_message, decltype(Record::sdrs)>(1, offsetof(Record, sdrs)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_sdr_data>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_sdr_data>;
 };
 
 template <>
@@ -183,7 +191,8 @@ struct Schema<tarn_ethsw_mgmt_sdr_cfg_resp> {
     static constexpr Field fields[] = {
         field<Kind::repeated_message, decltype(Record::results)>(1, offsetof(Record, results)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_sdr_cfg_result>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_sdr_cfg_result>;
 };
 
 template <>
@@ -193,7 +202,8 @@ struct Schema<tarn_ethsw_mgmt_sdr_info> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::sdrs)>(2, offsetof(Record, sdrs)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_sdr_data>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_sdr_data>;
 };
 
 } // namespace tarn

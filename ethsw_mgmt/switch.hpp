@@ -117,7 +117,8 @@ struct Schema<tarn_ethsw_mgmt_interface_status_rsp> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::interfaces)>(2, offsetof(Record, interfaces)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_interface_status>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_interface_status>;
 };
 
 template <>
@@ -266,7 +267,9 @@ struct Schema<tarn_ethsw_mgmt_port_health_history_entry> {
         field<Kind::uint32, decltype(Record::field_7)>(7, offsetof(Record, field_7)),
         field<Kind::message, decltype(Record::link_fault_status)>(8, offsetof(Record, link_fault_status)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_timespec, tarn_ethsw_mgmt_port_link_fault_status>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_timespec,
+        tarn_ethsw_mgmt_port_link_fault_status>;
 };
 
 template <>
@@ -280,7 +283,8 @@ struct Schema<tarn_ethsw_mgmt_phy_info> {
         field<Kind::uint32, decltype(Record::field_5)>(5, offsetof(Record, field_5)),
         field<Kind::uint32, decltype(Record::field_6)>(6, offsetof(Record, field_6)),
     };
-    using Children = RecordTypes<tarn_calv_eid_st>;
+    using Children = RecordTypes<
+        tarn_calv_eid_st>;
 };
 
 template <>
@@ -292,7 +296,8 @@ struct Schema<tarn_ethsw_mgmt_sfp_info> {
         field<Kind::boolean, decltype(Record::field_3)>(3, offsetof(Record, field_3)),
         field<Kind::boolean, decltype(Record::field_4)>(4, offsetof(Record, field_4)),
     };
-    using Children = RecordTypes<tarn_calv_eid_st>;
+    using Children = RecordTypes<
+        tarn_calv_eid_st>;
 };
 
 template <>
@@ -307,7 +312,10 @@ struct Schema<tarn_ethsw_mgmt_port_info> {
         field<Kind::uint32, decltype(Record::field_6)>(6, offsetof(Record, field_6)),
         field<Kind::uint32, decltype(Record::field_7)>(7, offsetof(Record, field_7)),
     };
-    using Children = RecordTypes<tarn_calv_eid_st, tarn_ethsw_mgmt_phy_info, tarn_ethsw_mgmt_sfp_info>;
+    using Children = RecordTypes<
+        tarn_calv_eid_st,
+        tarn_ethsw_mgmt_phy_info,
+        tarn_ethsw_mgmt_sfp_info>;
 };
 
 template <>
@@ -428,7 +436,8 @@ struct Schema<tarn_ethsw_mgmt_port_state_info> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::repeated_message, decltype(Record::ports)>(2, offsetof(Record, ports)),
     };
-    using Children = RecordTypes<tarn_ethsw_mgmt_port_status>;
+    using Children = RecordTypes<
+        tarn_ethsw_mgmt_port_status>;
 };
 
 template <>
@@ -473,7 +482,9 @@ struct Schema<tarn_ethsw_mgmt_switch_info> {
         field<Kind::repeated_message, decltype(Record::ports)>(8, offsetof(Record, ports)),
         field<Kind::uint64, decltype(Record::field_9)>(9, offsetof(Record, field_9)),
     };
-    using Children = RecordTypes<tarn_calv_eid_st, tarn_ethsw_mgmt_port_info>;
+    using Children = RecordTypes<
+        tarn_calv_eid_st,
+        tarn_ethsw_mgmt_port_info>;
 };
 
 template <>
@@ -489,7 +500,8 @@ struct Schema<tarn_ethsw_mgmt_yield_switch_to_peer_response> {
         field<Kind::uint32, decltype(Record::field_1)>(1, offsetof(Record, field_1)),
         field<Kind::message, decltype(Record::location)>(2, offsetof(Record, location)),
     };
-    using Children = RecordTypes<tarn_esd_location_info>;
+    using Children = RecordTypes<
+        tarn_esd_location_info>;
 };
 
 } // namespace tarn

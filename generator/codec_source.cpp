@@ -25,10 +25,10 @@ std::string schema(const Record &record)
     for (const Member &member : record.members)
         out += field_line(member);
     out += "    };\n    using Children = RecordTypes<";
-    std::string separator;
+    std::string separator = "\n        ";
     for (const std::string &child : children(record)) {
         out += separator + child;
-        separator = ", ";
+        separator = ",\n        ";
     }
     return out + ">;\n};\n";
 }
