@@ -169,6 +169,9 @@ void release_run(const Releaser &releaser, uint8_t *record)
 // record, whatever its type; a type without fields is never looked at, and may be null.
 template <auto layout, typename... Children>
 class Codec {
+    static_assert(nested_runs_before(layout, layout.run_count) == sizeof...(Children),
+                  "every nested field needs its record type among the Children");
+
 public:
     static constexpr uint32_t size = layout.size;
 

@@ -103,7 +103,8 @@ void Encoder::add_buffer_segment()
 // Callers count pieces of a buffer that they have yet to allocate: it may be null here.
 const uint8_t *Encoder::buffer_at(uint32_t offset) const
 {
-    return reinterpret_cast<const uint8_t *>(reinterpret_cast<uintptr_t>(buffer_) + offset);
+    const uintptr_t address = reinterpret_cast<uintptr_t>(buffer_) + offset;
+    return reinterpret_cast<const uint8_t *>(address); // NOLINT(performance-no-int-to-ptr)
 }
 
 } // namespace tarn

@@ -1,0 +1,33 @@
+# SPDX-License-Identifier: MIT
+# The few commands that one types here. Everything is built by CMake, in build/<preset>.
+
+.PHONY: all demo test regenerate check-generated format clean
+
+all:
+	cmake --preset release
+	cmake --build --preset release --parallel
+
+# Installs what is missing (as root, on Debian 12), builds, and lets a client talk to a service.
+demo:
+	@scripts/install-packages demo
+	@cmake --preset release > /dev/null
+	@cmake --build --preset release --parallel > /dev/null
+	@examples/run-demo build/release
+
+# Installs what is missing, builds, and runs the whole suite on every target.
+test:
+	@scripts/install-packages test
+	@scripts/run-tests
+
+# After a change of the schema: writes the record files anew, or only compares.
+regenerate:
+	@generator/regenerate
+
+check-generated:
+	@generator/regenerate --check
+
+format:
+	@scripts/format
+
+clean:
+	rm -rf build
