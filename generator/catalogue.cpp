@@ -94,6 +94,8 @@ Kind kind_of(const pb::FieldDescriptor &field)
     const bool repeated = field.is_repeated();
     if (field.is_required())
         refuse(field, "required members do not exist here; make it optional");
+    if (field.containing_oneof())
+        refuse(field, "there is no oneof: every member has a presence flag of its own");
     if (field.is_packed())
         refuse(field, "lists are never packed");
     switch (field.type()) {
@@ -157,6 +159,9 @@ Record read_record(const pb::Descriptor &message)
     record.descriptor = &message;
     if (record.comment.empty())
         throw std::runtime_error(record.name + ": every message has a comment");
+    if (message.nested_type_count() > 0 || message.enum_type_count() > 0)
+        throw std::runtime_error(record.name +
+                                 ": no maps, and no types declared inside of messages");
     if (message.field_count() > kMostMembers)
         throw std::runtime_error(record.name + ": a record has at most " +
                                  std::to_string(kMostMembers) + " members");
