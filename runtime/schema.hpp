@@ -217,6 +217,7 @@ consteval auto layout_of()
         constexpr auto &fields = Schema<Record>::fields;
         constexpr auto layout =
             make_layout<count_runs(fields), count_spans(fields)>(fields, sizeof(Record));
+        static_assert(sizeof(Record) <= UINT16_MAX, "offsets are 16 bits");
         static_assert(layout.flags + (layout.members + 7) / 8 <= sizeof(Record),
                       "the presence flags do not follow the last member");
         return layout;
