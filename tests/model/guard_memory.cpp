@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+// One mapping cut into slots, each followed by a page without access: many slots of one page, and
+// a few for what does not fit.
+
+#include "tests/model/guard_memory.hpp"
+
+#include <cstring>
+#include <stdexcept>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace model {
+
+namespace {
+
+constexpr uint32_t kSmallSlots = 4096;
+constexpr uint32_t kLargeSlots = 64;
+constexpr size_t kLargeBytes = 128 * 1024;
+
+size_t page()
+{
+    static const auto size = size_t(sysconf(_SC_PAGESIZE));
+    return size;
+}
+
+size_t small_slot()
+{
+    return 2 * page();
+}
+
+size_t large_slot()
+{
+    return kLargeBytes + page();
+}
+
+} // namespace
+
+GuardMemory::GuardMemory()
+{
+    length_ = kSmallSlots * small_slot() + kLargeSlots * large_slot();
+    void *start = mmap(nullptr, length_, PROT_READ | PROT_WRITE,
+                       MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (start == MAP_FAILED)
+        throw std::runtime_error("no room for the guarded memory");
+    auto *at = static_cast<uint8_t *>(start);
+    base_ = reinterpret_cast<uintptr_t>(at);
+    bool guarded = true;
+    for (uint32_t i = 0; i < kSmallSlots; ++i, at += small_slot())
+        guarded &= mprotect(at + page(), page(), PROT_NONE) == 0;
+    for (uint32_t i = 0; i < kLargeSlots; ++i, at += large_slot())
+        guarded &= mprotect(at + kLargeBytes, page(), PROT_NONE) == 0;
+    if (!guarded)
+        throw std::runtime_error("cannot guard the memory");
+}
+
+GuardMemory::~GuardMemory()
+{
+    munmap(reinterpret_cast<void *>(base_), length_);
+}
+
+uint8_t *GuardMemory::take(uint32_t size, const char *purpose, const RecordType *type)
+{
+    auto *end = reinterpret_cast<uint8_t *>(base_);
+    if (size <= page() - kMargin) {
+        if (small_ == kSmallSlots)
+            return nullptr;
+        end += small_++ * small_slot() + page();
+    } else if (size <= kLargeBytes - kMargin) {
+        if (large_ == kLargeSlots)
+            return nullptr;
+        end += kSmallSlots * small_slot() + large_++ * large_slot() + kLargeBytes;
+    } else {
+        return nullptr;
+    }
+    uint8_t *data = end - size;
+    std::memset(data - kMargin, pattern, size + size_t(kMargin));
+    blocks_.push_back({data, size, purpose, type});
+    return data;
+}
+
+void GuardMemory::rewind(const Mark &mark)
+{
+    blocks_.resize(mark.blocks);
+    small_ = mark.small;
+    large_ = mark.large;
+}
+
+} // namespace model
