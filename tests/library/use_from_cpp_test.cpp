@@ -10,9 +10,9 @@ TEST(use_from_c_and_cpp, a_record_written_in_c_is_read_in_cpp)
     std::array<uint8_t, 8> buffer{};
     ASSERT_EQ(encode_port_reset_in_c(300, buffer.data(), buffer.size()), 3u);
     tarn_ethsw_mgmt_port_reset request;
-    ASSERT_EQ(tarn_ethsw_mgmt_port_reset_decode_ext(&request, buffer.data(), 3, nullptr, nullptr,
-                                                    0),
-              WIRE_OK);
+    ASSERT_EQ(
+        tarn_ethsw_mgmt_port_reset_decode_ext(&request, buffer.data(), 3, nullptr, nullptr, 0),
+        WIRE_OK);
     EXPECT_EQ(request.port, 300u);
     EXPECT_TRUE(request.has_port);
 }
