@@ -16,7 +16,7 @@ namespace {
 
 constexpr uint32_t kSmallSlots = 4096;
 constexpr uint32_t kLargeSlots = 64;
-constexpr size_t kLargeBytes = 128 * 1024;
+constexpr size_t kLargeBytes = size_t{128} * 1024;
 
 size_t page()
 {
