@@ -81,11 +81,13 @@ constexpr bool kind_fits()
     return false;
 }
 
-// One field of a record type: `offset` is that of its member (of the pointer, where there are two).
+// One field of a record type, with a number of up to 255: `offset` is that of its member (of the
+// pointer, where there are two).
 template <Kind kind, typename Member>
 consteval Field field(uint32_t number, size_t offset)
 {
     static_assert(kind_fits<kind, Member>(), "the member's type does not belong to this kind");
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): the size of a pointer is meant
     constexpr size_t size = sizeof(Member) + (is_pair(kind) ? sizeof(uint32_t) : 0);
     return {kind, static_cast<uint8_t>(number), static_cast<uint16_t>(offset),
             static_cast<uint16_t>(size)};
@@ -137,8 +139,9 @@ struct Layout {
     Span spans[at_least_one(SpanCount)];
 };
 
-// A run's presence flags fit into a word.
+// A run's presence flags fit into a word, those of a record into two.
 constexpr uint32_t kLongestRun = 32;
+constexpr uint32_t kMostMembers = 64;
 
 template <uint32_t N>
 consteval bool continues_run(const Field (&fields)[N], uint32_t index, uint32_t run_length)
@@ -218,6 +221,7 @@ consteval auto layout_of()
         constexpr auto layout =
             make_layout<count_runs(fields), count_spans(fields)>(fields, sizeof(Record));
         static_assert(sizeof(Record) <= UINT16_MAX, "offsets are 16 bits");
+        static_assert(layout.members <= kMostMembers, "the flags of a record are 64 bits");
         static_assert(layout.flags + (layout.members + 7) / 8 <= sizeof(Record),
                       "the presence flags do not follow the last member");
         return layout;
