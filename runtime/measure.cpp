@@ -10,12 +10,19 @@ namespace tarn {
 
 namespace {
 
-constexpr uint32_t kTagStep = make_tag(1, kVarint);
-
 uint32_t measure_text(const char *text)
 {
     const uint32_t length = wire_strlen(text);
     return wire_varint32_size(length) + length;
+}
+
+template <typename Member>
+uint32_t scalar_size(Member value)
+{
+    if constexpr (sizeof(Member) == sizeof(uint64_t))
+        return wire_varint64_size(value);
+    else
+        return wire_varint32_size(value);
 }
 
 // One body for the three kinds of scalars: they differ in the width of the member.
@@ -24,7 +31,7 @@ uint32_t measure_scalars(uint32_t offset, const Member *members, uint32_t presen
 {
     for (; present; present >>= 1, members++, tag += kTagStep)
         if (present & 1)
-            offset += wire_varint32_size(tag) + wire_varint64_size(*members);
+            offset += wire_varint32_size(tag) + scalar_size(*members);
     return offset;
 }
 
@@ -32,10 +39,7 @@ uint32_t measure_scalars(uint32_t offset, const Member *members, uint32_t presen
 
 uint32_t measure_uint32s(uint32_t offset, const uint32_t *members, uint32_t present, uint32_t tag)
 {
-    for (; present; present >>= 1, members++, tag += kTagStep)
-        if (present & 1)
-            offset += wire_varint32_size(tag) + wire_varint32_size(*members);
-    return offset;
+    return measure_scalars(offset, members, present, tag);
 }
 
 uint32_t measure_uint64s(uint32_t offset, const uint64_t *members, uint32_t present, uint32_t tag)

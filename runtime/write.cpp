@@ -9,8 +9,6 @@ namespace tarn {
 
 namespace {
 
-constexpr uint32_t kTagStep = make_tag(1, kVarint);
-
 // The prefix says what measuring found: byte strings that stay in place are not in it.
 void write_nested(Encoder &out, const uint8_t *record, uint32_t length, uint32_t tag,
                   WriteRecord write)
@@ -22,37 +20,37 @@ void write_nested(Encoder &out, const uint8_t *record, uint32_t length, uint32_t
     out.step_over(length, inner.segment_count());
 }
 
+// One body for the three kinds of scalars: they differ in the width of the member.
+template <typename Member>
+void write_scalars(Encoder &out, const Member *members, uint32_t present, uint32_t tag)
+{
+    for (; present; present >>= 1, members++, tag += kTagStep) {
+        if (!(present & 1))
+            continue;
+        out.put_tag(tag);
+        if constexpr (sizeof(Member) == sizeof(uint64_t))
+            out.put_varint64(*members);
+        else
+            out.put_varint32(*members);
+    }
+}
+
 } // namespace
 
 void write_uint32s(Encoder &out, const uint32_t *members, uint32_t present, uint32_t tag)
 {
-    for (; present; present >>= 1, members++, tag += kTagStep) {
-        if (!(present & 1))
-            continue;
-        out.put_tag(tag);
-        out.put_varint32(*members);
-    }
+    write_scalars(out, members, present, tag);
 }
 
 void write_uint64s(Encoder &out, const uint64_t *members, uint32_t present, uint32_t tag)
 {
-    for (; present; present >>= 1, members++, tag += kTagStep) {
-        if (!(present & 1))
-            continue;
-        out.put_tag(tag);
-        out.put_varint64(*members);
-    }
+    write_scalars(out, members, present, tag);
 }
 
 // The byte goes out as it is: 2 and more are possible when the caller has put them there.
 void write_bools(Encoder &out, const uint8_t *members, uint32_t present, uint32_t tag)
 {
-    for (; present; present >>= 1, members++, tag += kTagStep) {
-        if (!(present & 1))
-            continue;
-        out.put_tag(tag);
-        out.put_varint32(*members);
-    }
+    write_scalars(out, members, present, tag);
 }
 
 void write_string(Encoder &out, const uint8_t *member, uint32_t present, uint32_t tag)

@@ -22,6 +22,9 @@ constexpr uint32_t make_tag(uint32_t number, WireType type)
     return number << 3 | type;
 }
 
+// From the tag of a field to that of the next number.
+constexpr uint32_t kTagStep = make_tag(1, kVarint);
+
 constexpr uint32_t wire_type_of(uint32_t tag)
 {
     return tag & 7;
