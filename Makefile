@@ -1,17 +1,19 @@
 # SPDX-License-Identifier: MIT
 # The few commands that one types here. Everything is built by CMake, in build/<preset>.
 
+JOBS := $(shell nproc)
+
 .PHONY: all demo test regenerate check-generated format clean
 
 all:
 	cmake --preset release
-	cmake --build --preset release --parallel
+	cmake --build --preset release --parallel $(JOBS)
 
 # Installs what is missing (as root, on Debian 12), builds, and lets a client talk to a service.
 demo:
 	@scripts/install-packages demo
 	@cmake --preset release > /dev/null
-	@cmake --build --preset release --parallel > /dev/null
+	@cmake --build --preset release --parallel $(JOBS) > /dev/null
 	@examples/run-demo build/release
 
 # Installs what is missing, builds, and runs the whole suite on every target.
