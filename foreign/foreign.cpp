@@ -14,11 +14,13 @@ constexpr uint32_t kEidList =
     (kEidNumbers * sizeof(uint32_t) + alignof(void *) - 1) / alignof(void *) * alignof(void *);
 constexpr uint32_t kEidFlags = kEidList + sizeof(void *) + sizeof(uint32_t);
 static_assert(sizeof(tarn_calv_eid_st) ==
-              (kEidFlags + 1 + alignof(void *) - 1) / alignof(void *) * alignof(void *));
+                  (kEidFlags + 1 + alignof(void *) - 1) / alignof(void *) * alignof(void *),
+              "this library embeds tarn_calv_eid_st with another layout");
 
 // Eight numbers, eight flags.
 constexpr uint32_t kLocationFlags = 8 * sizeof(uint32_t);
-static_assert(sizeof(tarn_esd_location_info) == kLocationFlags + sizeof(uint32_t));
+static_assert(sizeof(tarn_esd_location_info) == kLocationFlags + sizeof(uint32_t),
+              "this library embeds tarn_esd_location_info with another layout");
 
 } // namespace
 
