@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The layout of every record, computed from the schema alone. The compilers are held against it.
-#include "output.hpp"
+#include "generator/output.hpp"
 
 #include <map>
 

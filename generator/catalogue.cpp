@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "catalogue.hpp"
+#include "generator/catalogue.hpp"
 
 #include <google/protobuf/descriptor.pb.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The C++ sources of the library: what the compiler makes the codecs from.
-#include "output.hpp"
+#include "generator/output.hpp"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The C headers.
-#include "output.hpp"
+#include "generator/output.hpp"
 
 #include <algorithm>
 #include <cctype>

@@ -2,7 +2,7 @@
 // The schema compiler, a plugin of protoc: all .proto files of the set go in at once, the committed
 // record files, tables and lists come out. See generator/regenerate.
 
-#include "output.hpp"
+#include "generator/output.hpp"
 
 #include <google/protobuf/compiler/code_generator.h>
 #include <google/protobuf/compiler/plugin.h>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "catalogue.hpp"
+#include "generator/catalogue.hpp"
 
 #include <string>
 #include <vector>

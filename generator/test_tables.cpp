@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The catalogue as a table that tests walk at run time. The library has none.
-#include "output.hpp"
+#include "generator/output.hpp"
 
 namespace generator {
 

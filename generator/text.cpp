@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "output.hpp"
+#include "generator/output.hpp"
 
 #include <sstream>
 

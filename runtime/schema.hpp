@@ -7,7 +7,6 @@
 #include <stddef.h>
 #include <stdint.h>
 #include <type_traits>
-#include <utility>
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
