@@ -10,19 +10,14 @@
 
 namespace model {
 
-void Tally::count(int32_t result, const ModelCodec::Sightings &sightings)
-{
-    ++results[-result];
-    endless += sightings.endless;
-    back_and_well += sightings.went_back && result == kOk;
-}
-
 void Cases::run(const RecordType &type, uint64_t seed)
 {
     random_ = Random(seed);
     rewind({0, 0, 0});
     library_.memory.pattern = random_.pick<uint8_t>({0x00, 0xFF, 0xA5, 0x5A, 0x81});
     model_.memory.pattern = library_.memory.pattern;
+    library_.memory.guard_in_front = random_.chance(50);
+    model_.memory.guard_in_front = library_.memory.guard_in_front;
     const uint32_t which = random_.below(100);
     if (which < 30)
         encode_case(type);
@@ -45,9 +40,9 @@ void Cases::duplicate_in_every_way(const RecordType &type, const Twin &from)
     const bool empty_is_null = random_.chance(50);
     const uint32_t calls = try_duplicate(type, from, {true, kNever, empty_is_null});
     try_duplicate(type, from, {false, kNever, false});
-    for (uint32_t i = 0; i < std::min(calls, 12u); ++i)
+    for (uint32_t i = 0; i < std::min(calls, kFailures); ++i)
         try_duplicate(type, from,
-                      {true, calls > 12 ? random_.below(calls) : i, random_.chance(50)});
+                      {true, calls > kFailures ? random_.below(calls) : i, random_.chance(50)});
 }
 
 uint32_t Cases::try_duplicate(const RecordType &type, const Twin &from,
@@ -67,6 +62,7 @@ uint32_t Cases::try_duplicate(const RecordType &type, const Twin &from,
     require(compare_allocations(library_, model_));
     require(compare_memory(library_, model_));
     ++comparisons_;
+    tally_.count(of_model ? Seen::copied_without_memory : Seen::copied_whole);
     const auto calls = uint32_t(model_.allocator.calls().size());
     try_release(type, to, random_flags() & ~kBytesInPlace);
     rewind(mark);
@@ -91,6 +87,7 @@ void Cases::try_release(const RecordType &type, const Twin &record, uint32_t fla
         require(compare_releases(library_, model_));
         require(compare_memory(library_, model_));
         ++comparisons_;
+        tally_.count(model_.freed.blocks.empty() ? Seen::released_nothing : Seen::released_blocks);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "tests/model/compare.hpp"
 #include "tests/model/record_memory.hpp"
+#include "tests/support/undefined.hpp"
 
 #include <algorithm>
 #include <cstdarg>
@@ -43,18 +44,24 @@ bool same_address(const Side &library, uintptr_t left, const Side &model, uintpt
            library.memory.offset_of(left) == model.memory.offset_of(right);
 }
 
-// The first byte of the block, or of the margin before it, at which the sides differ.
-ptrdiff_t first_difference(const Side &library, const Block &left, const Side &model,
-                           const Block &right)
+ptrdiff_t watched_end(const Block &block)
 {
+    return ptrdiff_t(block.size) + ptrdiff_t(block.behind);
+}
+
+// The first byte of the block, or of its margin, at which the sides differ; else where it ends.
+TARN_TEST_UNWATCHED ptrdiff_t first_difference(const Side &library, const Block &left,
+                                               const Side &model, const Block &right)
+{
+    const test::Unwatched unwatched;
     constexpr ptrdiff_t kWord = sizeof(uintptr_t);
-    ptrdiff_t at = -ptrdiff_t(GuardMemory::kMargin);
-    const auto size = ptrdiff_t(left.size);
-    if (std::memcmp(left.data + at, right.data + at, size_t(size - at)) == 0)
-        return size;
-    while (at < size) {
+    ptrdiff_t at = -ptrdiff_t(left.before);
+    const ptrdiff_t end = watched_end(left);
+    if (std::memcmp(left.data + at, right.data + at, size_t(end - at)) == 0)
+        return end;
+    while (at < end) {
         const auto address = reinterpret_cast<uintptr_t>(left.data + at);
-        if (address % kWord == 0 && at + kWord <= size) {
+        if (address % kWord == 0 && at + kWord <= end) {
             if (!same_address(library, load<uintptr_t>(left.data + at), model,
                               load<uintptr_t>(right.data + at)))
                 return at;
@@ -65,7 +72,7 @@ ptrdiff_t first_difference(const Side &library, const Block &left, const Side &m
             ++at;
         }
     }
-    return size;
+    return end;
 }
 
 std::string member_at(const RecordType &type, uint32_t offset)
@@ -127,15 +134,15 @@ std::string compare_memory(const Side &library, const Side &model)
     const auto &right = model.memory.blocks();
     for (size_t i = 0; i < std::min(left.size(), right.size()); ++i) {
         const ptrdiff_t at = first_difference(library, left[i], model, right[i]);
-        if (at == ptrdiff_t(left[i].size))
+        if (at == watched_end(left[i]))
             continue;
         std::string text = format("%s (block %zu, %u bytes) differs at offset %td", left[i].purpose,
                                   i, left[i].size, at);
-        if (left[i].type && left[i].type->size && at >= 0)
+        if (left[i].type && left[i].type->size && at >= 0 && at < ptrdiff_t(left[i].size))
             text += ", element " + std::to_string(uint32_t(at) / left[i].type->size) + ", " +
                     member_at(*left[i].type, uint32_t(at) % left[i].type->size);
-        const ptrdiff_t from = std::max<ptrdiff_t>(at - 16, -ptrdiff_t(GuardMemory::kMargin));
-        const auto shown = size_t(std::min<ptrdiff_t>(ptrdiff_t(left[i].size) - from, 48));
+        const ptrdiff_t from = std::max<ptrdiff_t>(at - 16, -ptrdiff_t(left[i].before));
+        const auto shown = size_t(std::min<ptrdiff_t>(watched_end(left[i]) - from, 48));
         return text + "\n  library from " + std::to_string(from) + ": " +
                hex(left[i].data + from, shown) +
                "\n  model:        " + hex(right[i].data + from, shown);

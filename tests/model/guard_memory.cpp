@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
-// One mapping cut into slots, each followed by a page without access: many slots of one page, and
+// One mapping cut into slots, with a page without access between them: many slots of one page, and
 // a few for what does not fit.
 
 #include "tests/model/guard_memory.hpp"
+
+#include "tests/support/undefined.hpp"
 
 #include <cstring>
 #include <stdexcept>
@@ -38,14 +40,15 @@ size_t large_slot()
 
 GuardMemory::GuardMemory()
 {
-    length_ = kSmallSlots * small_slot() + kLargeSlots * large_slot();
+    length_ = page() + kSmallSlots * small_slot() + kLargeSlots * large_slot();
     void *start = mmap(nullptr, length_, PROT_READ | PROT_WRITE,
                        MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (start == MAP_FAILED)
         throw std::runtime_error("no room for the guarded memory");
     auto *at = static_cast<uint8_t *>(start);
     base_ = reinterpret_cast<uintptr_t>(at);
-    bool guarded = true;
+    bool guarded = mprotect(at, page(), PROT_NONE) == 0;
+    at += page();
     for (uint32_t i = 0; i < kSmallSlots; ++i, at += small_slot())
         guarded &= mprotect(at + page(), page(), PROT_NONE) == 0;
     for (uint32_t i = 0; i < kLargeSlots; ++i, at += large_slot())
@@ -61,21 +64,27 @@ GuardMemory::~GuardMemory()
 
 uint8_t *GuardMemory::take(uint32_t size, const char *purpose, const RecordType *type)
 {
-    auto *end = reinterpret_cast<uint8_t *>(base_);
+    uint8_t *slot = reinterpret_cast<uint8_t *>(base_) + page();
+    size_t room = 0;
     if (size <= page() - kMargin) {
         if (small_ == kSmallSlots)
             return nullptr;
-        end += small_++ * small_slot() + page();
+        slot += small_++ * small_slot();
+        room = page();
     } else if (size <= kLargeBytes - kMargin) {
         if (large_ == kLargeSlots)
             return nullptr;
-        end += kSmallSlots * small_slot() + large_++ * large_slot() + kLargeBytes;
+        slot += kSmallSlots * small_slot() + large_++ * large_slot();
+        room = kLargeBytes;
     } else {
         return nullptr;
     }
-    uint8_t *data = end - size;
-    std::memset(data - kMargin, pattern, size + size_t(kMargin));
-    blocks_.push_back({data, size, purpose, type});
+    const uint32_t before = guard_in_front ? 0 : kMargin;
+    const uint32_t behind = kMargin - before;
+    uint8_t *data = guard_in_front ? slot : slot + room - size;
+    std::memset(data - before, pattern, size + size_t(kMargin));
+    test::make_undefined(data, size);
+    blocks_.push_back({data, size, before, behind, purpose, type});
     return data;
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Memory whose every block ends at a page that nobody may touch. Blocks are taken in order and
-// given back by rewinding; two of these hand out the same offsets for the same requests.
+// Memory whose every block ends, or begins, at a page that nobody may touch. Blocks are taken in
+// order and given back by rewinding; two of these hand out the same offsets for the same requests.
 
 #pragma once
 
@@ -15,6 +15,9 @@ namespace model {
 struct Block {
     uint8_t *data;
     uint32_t size;
+    // Bytes of nobody before and behind it that are watched as well.
+    uint32_t before;
+    uint32_t behind;
     // What the block is for, and the type of the records in it, if any.
     const char *purpose;
     const RecordType *type;
@@ -28,7 +31,7 @@ struct Mark {
 
 class GuardMemory {
 public:
-    // Bytes before each block that are watched as well.
+    // Bytes that are watched on the side where there is no guard.
     static constexpr uint32_t kMargin = 64;
 
     GuardMemory();
@@ -47,6 +50,8 @@ public:
     uintptr_t offset_of(uintptr_t address) const { return address - base_; }
 
     uint8_t pattern = 0xA5;
+    // Where the page without access lies that a block touches.
+    bool guard_in_front = false;
 
 private:
     uintptr_t base_ = 0;

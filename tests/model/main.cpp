@@ -31,6 +31,7 @@ const char *const kUsage =
     "  --type NAME  only this record type, without its prefix `tarn_`\n"
     "  --first N    skip the first N cases of each type\n"
     "  --limit N    stop after N differences (10)\n"
+    "  --every-class  fail unless each class of cases has come up\n"
     "  --huge       only what is very long, once per type; needs a gigabyte of memory\n"
     "  --verbose    print every step\n";
 
@@ -44,6 +45,7 @@ struct Options {
     uint64_t cases = 10000;
     uint64_t first = 0;
     uint64_t limit = 10;
+    bool every_class = false;
     bool huge = false;
     bool verbose = false;
 };
@@ -101,6 +103,8 @@ Options read_options(int count, char **words)
             options.first = std::stoull(value());
         else if (word == "--limit")
             options.limit = std::stoull(value());
+        else if (word == "--every-class")
+            options.every_class = true;
         else if (word == "--huge")
             options.huge = true;
         else if (word == "--verbose")
@@ -179,15 +183,13 @@ int run(const Options &options)
             differences +=
                 !passes([&] { cases->run(type, seed_of(options.seed, type.name, number)); });
     }
-    const Tally &tally = cases->tally();
-    std::printf("decoded: %" PRIu64 " well (%" PRIu64 " after going back), %" PRIu64
-                " malformed (%" PRIu64 " endless), %" PRIu64 " bad wire type, %" PRIu64
-                " mismatch, %" PRIu64 " no memory\n",
-                tally.results[0], tally.back_and_well, tally.results[1], tally.endless,
-                tally.results[2], tally.results[3], tally.results[4]);
-    std::printf("%" PRIu64 " cases, %" PRIu64 " comparisons, %" PRIu64 " differences\n", done,
-                cases->comparisons(), differences);
-    return differences ? 1 : 0;
+    const int empty = options.huge ? 0 : cases->tally().print();
+    if (options.every_class && empty)
+        std::printf("\nDIFFERENCE: %d classes of cases did not come up\n", empty);
+    std::printf("seed %" PRIu64 ": %" PRIu64 " cases, %" PRIu64 " comparisons, %" PRIu64
+                " differences\n",
+                options.seed, done, cases->comparisons(), differences);
+    return differences || (options.every_class && empty) ? 1 : 0;
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "tests/model/codec.hpp"
+#include "tests/model/course.hpp"
 
 namespace model {
 
@@ -19,17 +20,13 @@ public:
     void release(const RecordType &type, uint8_t *record, FreeFn release_block, void *context,
                  uint32_t flags) override;
 
-    // What was seen on the way of one decode.
-    struct Sightings {
-        // A skip led back to where the reading had been before.
-        bool went_back = false;
-        // The field loop would never have ended and was given up.
-        bool endless = false;
-    };
+    // How long the next decodes put up with a loop that never ends.
+    void set_patience(const Patience &patience) { patience_ = patience; }
 
     const Sightings &last_decode() const { return sightings_; }
 
 private:
+    Patience patience_;
     Sightings sightings_;
 };
 

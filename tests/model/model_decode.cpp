@@ -3,10 +3,8 @@
 // before each array.
 
 #include "tests/model/model_codec.hpp"
+#include "tests/model/model_input.hpp"
 #include "tests/model/record_memory.hpp"
-
-#include <set>
-#include <utility>
 
 namespace model {
 
@@ -14,97 +12,33 @@ namespace {
 
 class Decoder {
 public:
-    Decoder(const RecordType &type, uint8_t *record, const DecodeArguments &arguments,
-            ModelCodec::Sightings &sightings)
-        : type_(type), record_(record), in_(arguments), sightings_(sightings)
+    Decoder(const RecordType &type, uint8_t *record, const DecodeArguments &arguments, Level level,
+            const Patience &patience, Sightings &sightings)
+        : type_(type), record_(record), arguments_(arguments),
+          in_(arguments.input, arguments.length, sightings), level_(level), patience_(patience),
+          sightings_(sightings), course_(type, record, arguments.length, level, patience, sightings)
     {}
 
     int32_t run()
     {
         initialise(type_, record_);
-        while (position_ < in_.length) {
-            const uint32_t tag_position = position_;
+        while (!in_.is_over()) {
+            sightings_.level = level_;
             uint64_t tag = 0;
-            if (int32_t error = read_varint(&tag, 32))
+            int32_t error = in_.read_varint(&tag, 32);
+            if (!error)
+                error = read_field(uint32_t(tag));
+            if (!error && course_.never_ends(in_.position))
+                error = kMalformed;
+            if (error)
                 return error;
-            if (int32_t error = read_field(uint32_t(tag)))
-                return error;
-            if (position_ > tag_position)
-                continue;
-            sightings_.went_back = true;
-            if (was_here_before()) {
-                sightings_.endless = true;
-                return kMalformed;
-            }
         }
+        if (!in_.at_end())
+            sightings_.reason = Reason::behind_the_end;
         return kOk;
     }
 
 private:
-    // A loop that stands again where it stood, with the same pointers set, goes round for ever.
-    bool was_here_before()
-    {
-        uint64_t pointers = 0;
-        for (size_t i = 0; i < type_.members.size(); ++i) {
-            const Member &member = type_.members[i];
-            if (has_pointer(member.kind) && load_pointer(record_ + member.offset))
-                pointers |= uint64_t(1) << i;
-        }
-        return !seen_.insert({position_, pointers}).second;
-    }
-
-    // Reads a varint of any length; what lies above `bits` is dropped.
-    int32_t read_varint(uint64_t *value, uint32_t bits)
-    {
-        uint32_t at = position_;
-        uint64_t result = 0;
-        uint8_t byte;
-        uint32_t shift = 0;
-        do {
-            if (at >= in_.length)
-                return kMalformed;
-            byte = in_.input[at++];
-            if (shift < bits)
-                result |= uint64_t(byte & 0x7F) << shift;
-            shift = shift < 70 ? shift + 7 : shift;
-        } while (byte & 0x80);
-        *value = bits == 32 ? uint32_t(result) : result;
-        position_ = at;
-        return kOk;
-    }
-
-    int32_t read_length(uint32_t *length)
-    {
-        uint64_t value = 0;
-        if (int32_t error = read_varint(&value, 32))
-            return error;
-        *length = uint32_t(value);
-        const uint32_t end = position_ + *length;
-        return end > in_.length || end < position_ ? kMalformed : kOk;
-    }
-
-    int32_t skip(uint32_t wire_type)
-    {
-        uint64_t value = 0;
-        switch (wire_type) {
-        case 0:
-            return read_varint(&value, 32);
-        case 1:
-            position_ += 8;
-            return kOk;
-        case 2:
-            if (int32_t error = read_varint(&value, 32))
-                return error;
-            position_ += uint32_t(value);
-            return kOk;
-        case 5:
-            position_ += 4;
-            return kOk;
-        default:
-            return kBadWireType;
-        }
-    }
-
     int32_t read_field(uint32_t tag)
     {
         for (size_t i = 0; i < type_.members.size(); ++i) {
@@ -115,7 +49,12 @@ private:
             set_flag(type_, record_, i, true);
             return kOk;
         }
-        return skip(tag & 7);
+        // A landing is not taken for a field on the way.
+        const uint32_t from = in_.position;
+        const int32_t error = in_.skip(tag & 7);
+        if (!error && in_.position > from)
+            course_.pass(kUnknownVarint << (tag & 7));
+        return error;
     }
 
     int32_t read_member(const Member &member, uint32_t wire_type)
@@ -124,14 +63,14 @@ private:
         const bool is_number = member.kind == Kind::uint32 || member.kind == Kind::uint64 ||
                                member.kind == Kind::boolean || member.kind == Kind::uint32s;
         if (wire_type != (is_number ? 0u : 2u))
-            return kTypeMismatch;
+            return in_.fail(kTypeMismatch, Reason::type_mismatch);
         switch (member.kind) {
         case Kind::string:
             return read_string(at);
         case Kind::bytes:
             return read_bytes(at);
         case Kind::record:
-            return read_record(member, at);
+            return read_record(member, at, Level::embedded);
         case Kind::uint32s:
         case Kind::strings:
         case Kind::records:
@@ -143,8 +82,9 @@ private:
 
     int32_t read_number(Kind kind, uint8_t *at)
     {
+        course_.pass(kNumber);
         uint64_t value = 0;
-        if (int32_t error = read_varint(&value, kind == Kind::uint64 ? 64 : 32))
+        if (int32_t error = in_.read_varint(&value, kind == Kind::uint64 ? 64 : 32))
             return error;
         if (kind == Kind::uint64)
             store<uint64_t>(at, value);
@@ -155,66 +95,85 @@ private:
         return kOk;
     }
 
-    int32_t read_string(uint8_t *at)
+    // A member that points somewhere must not come twice, and most need an allocation callback.
+    int32_t check_pointer(const uint8_t *at, bool needs_memory)
     {
         if (load_pointer(at))
-            return kMalformed;
-        if (!in_.allocate)
-            return kNoMemory;
+            return in_.fail(kMalformed, Reason::met_again);
+        if (needs_memory && !arguments_.allocate)
+            return in_.fail(kNoMemory, Reason::no_callback);
+        return kOk;
+    }
+
+    int32_t allocate(uint64_t size, uint8_t **block)
+    {
+        if (size > UINT32_MAX)
+            return in_.fail(kNoMemory, Reason::too_large);
+        ++sightings_.calls;
+        sightings_.asked_for_nothing |= size == 0;
+        *block = static_cast<uint8_t *>(arguments_.allocate(uint32_t(size), arguments_.context));
+        return *block ? kOk : in_.fail(kNoMemory, Reason::no_block);
+    }
+
+    int32_t read_string(uint8_t *at)
+    {
+        if (int32_t error = check_pointer(at, true))
+            return error;
         return read_text(at);
     }
 
     int32_t read_text(uint8_t *at)
     {
         uint32_t length = 0;
-        if (int32_t error = read_length(&length))
+        if (int32_t error = in_.read_length(&length))
             return error;
-        auto *text = static_cast<uint8_t *>(in_.allocate(length + 1, in_.context));
-        if (!text)
-            return kNoMemory;
+        uint8_t *text = nullptr;
+        if (int32_t error = allocate(uint64_t(length) + 1, &text))
+            return error;
         store_pointer(at, text);
-        std::memcpy(text, in_.input + position_, length);
+        std::memcpy(text, in_.here(), length);
         text[length] = 0;
-        position_ += length;
+        in_.position += length;
         return kOk;
     }
 
     int32_t read_bytes(uint8_t *at)
     {
-        const bool in_place = in_.flags & kBytesInPlace;
-        if (load_pointer(at))
-            return kMalformed;
-        if (!in_place && !in_.allocate)
-            return kNoMemory;
-        uint32_t length = 0;
-        if (int32_t error = read_length(&length))
+        const bool in_place = arguments_.flags & kBytesInPlace;
+        if (int32_t error = check_pointer(at, !in_place))
             return error;
-        const uint8_t *data = in_.input + position_;
+        uint32_t length = 0;
+        if (int32_t error = in_.read_length(&length))
+            return error;
+        const uint8_t *data = in_.here();
         if (!in_place) {
-            auto *copy = static_cast<uint8_t *>(in_.allocate(length, in_.context));
-            if (!copy)
-                return kNoMemory;
+            uint8_t *copy = nullptr;
+            if (int32_t error = allocate(length, &copy))
+                return error;
             if (length)
                 std::memcpy(copy, data, length);
             data = copy;
         }
         store_pointer(at, data);
         store_count(at, length);
-        position_ += length;
+        in_.position += length;
         return kOk;
     }
 
-    int32_t read_record(const Member &member, uint8_t *at)
+    int32_t read_record(const Member &member, uint8_t *at, Level step)
     {
+        course_.pass(kRecord);
         uint32_t length = 0;
-        if (int32_t error = read_length(&length))
+        if (int32_t error = in_.read_length(&length))
             return error;
-        DecodeArguments inner = in_;
-        inner.input = in_.input + position_;
+        DecodeArguments inner = arguments_;
+        inner.input = in_.here();
         inner.length = length;
-        if (int32_t error = Decoder(*member.child, at, inner, sightings_).run())
+        const Level level = level_ == Level::outermost ? step : Level::deeper;
+        if (int32_t error = Decoder(*member.child, at, inner, level, patience_, sightings_).run())
             return error;
-        position_ += length;
+        in_.position += length;
+        sightings_.level = level_;
         return kOk;
     }
 
@@ -226,16 +185,16 @@ private:
             uint64_t value = 0;
             uint32_t length = 0;
             if (member.kind == Kind::uint32s) {
-                if (int32_t error = read_varint(&value, 32))
+                if (int32_t error = in_.read_varint(&value, 32))
                     return error;
-            } else if (int32_t error = read_length(&length)) {
+            } else if (int32_t error = in_.read_length(&length)) {
                 return error;
             }
-            position_ += length;
+            in_.position += length;
             ++*count;
-            if (position_ == in_.length)
+            if (in_.at_end())
                 return kOk;
-            if (int32_t error = read_varint(&value, 32))
+            if (int32_t error = in_.read_varint(&value, 32))
                 return error;
             if (value >> 3 != member.number)
                 return kOk;
@@ -244,21 +203,17 @@ private:
 
     int32_t read_run(const Member &member, uint8_t *at)
     {
-        if (load_pointer(at))
-            return kMalformed;
-        if (!in_.allocate)
-            return kNoMemory;
-        const uint32_t start = position_;
+        if (int32_t error = check_pointer(at, true))
+            return error;
+        const uint32_t start = in_.position;
         uint32_t count = 0;
         if (int32_t error = count_run(member, &count))
             return error;
-        position_ = start;
+        in_.position = start;
         const uint64_t size = uint64_t(count) * element_size(member);
-        if (size > UINT32_MAX)
-            return kNoMemory;
-        auto *elements = static_cast<uint8_t *>(in_.allocate(uint32_t(size), in_.context));
-        if (!elements)
-            return kNoMemory;
+        uint8_t *elements = nullptr;
+        if (int32_t error = allocate(size, &elements))
+            return error;
         if (member.kind != Kind::uint32s)
             std::memset(elements, 0, size_t(size));
         store_pointer(at, elements);
@@ -274,21 +229,23 @@ private:
         uint8_t *element = elements + size_t(index) * element_size(member);
         uint64_t tag = 0;
         if (index > 0)
-            if (int32_t error = read_varint(&tag, 32))
+            if (int32_t error = in_.read_varint(&tag, 32))
                 return error;
         if (member.kind == Kind::uint32s)
             return read_number(Kind::uint32, element);
         if (member.kind == Kind::strings)
             return read_text(element);
-        return read_record(member, element);
+        return read_record(member, element, Level::element);
     }
 
     const RecordType &type_;
     uint8_t *record_;
-    const DecodeArguments in_;
-    ModelCodec::Sightings &sightings_;
-    uint32_t position_ = 0;
-    std::set<std::pair<uint32_t, uint64_t>> seen_;
+    const DecodeArguments arguments_;
+    Input in_;
+    Level level_;
+    const Patience &patience_;
+    Sightings &sightings_;
+    Course course_;
 };
 
 } // namespace
@@ -297,7 +254,7 @@ int32_t ModelCodec::decode(const RecordType &type, uint8_t *record,
                            const DecodeArguments &arguments)
 {
     sightings_ = {};
-    return Decoder(type, record, arguments, sightings_).run();
+    return Decoder(type, record, arguments, Level::outermost, patience_, sightings_).run();
 }
 
 } // namespace model

@@ -31,6 +31,9 @@ Roughness random_roughness(Random &random);
 // One encoding of a record of the type.
 Bytes random_wire(Random &random, const RecordType &type, const Roughness &roughness);
 
+// The same with fields that the reading comes back to, most of them for ever.
+Bytes random_round(Random &random, const RecordType &type, const Roughness &roughness);
+
 // Flips, drops, doubles and cuts off bytes.
 void mutate(Random &random, Bytes &bytes);
 

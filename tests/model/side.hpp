@@ -30,14 +30,14 @@ public:
     static void *allocate(uint32_t size, void *context);
 
     const std::vector<Call> &calls() const { return calls_; }
-    bool has_failed() const { return failed_; }
+    uint32_t count() const { return uint32_t(calls_.size()); }
+    void forget_all_but(uint32_t count);
 
 private:
     GuardMemory &memory_;
     std::vector<Call> calls_;
     uint32_t fail_at_ = kNever;
     bool empty_is_null_ = false;
-    bool failed_ = false;
 };
 
 class FreeLog {

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+// Memory that holds something, but nothing that anybody may decide by. A tool that watches memory
+// (preset msan, scripts/check-valgrind) reports who does; elsewhere these functions do nothing.
+
+#pragma once
+
+#include <cstddef>
+
+#if defined(__has_feature)
+#if __has_feature(memory_sanitizer)
+#define TARN_TEST_MSAN
+#include <sanitizer/msan_interface.h>
+#endif
+#endif
+
+#if !defined(TARN_TEST_MSAN) && (defined(__x86_64__) || defined(__i386__))
+#if __has_include(<valgrind/memcheck.h>)
+#define TARN_TEST_VALGRIND
+#include <valgrind/memcheck.h>
+#endif
+#endif
+
+// For functions that look at memory as it is, also where nobody has written.
+#ifdef TARN_TEST_MSAN
+#define TARN_TEST_UNWATCHED __attribute__((no_sanitize("memory")))
+#else
+#define TARN_TEST_UNWATCHED
+#endif
+
+namespace test {
+
+// The bytes stay, but count as never written.
+inline void make_undefined([[maybe_unused]] void *data, [[maybe_unused]] size_t size)
+{
+#if defined(TARN_TEST_MSAN)
+    __msan_poison(data, size);
+#elif defined(TARN_TEST_VALGRIND)
+    VALGRIND_MAKE_MEM_UNDEFINED(data, size);
+#endif
+}
+
+inline void make_defined([[maybe_unused]] const void *data, [[maybe_unused]] size_t size)
+{
+#if defined(TARN_TEST_MSAN)
+    __msan_unpoison(data, size);
+#elif defined(TARN_TEST_VALGRIND)
+    VALGRIND_MAKE_MEM_DEFINED(data, size);
+#endif
+}
+
+// While one is there, nothing is reported. It belongs into functions that are TARN_TEST_UNWATCHED.
+class Unwatched {
+public:
+    Unwatched()
+    {
+#if defined(TARN_TEST_MSAN)
+        __msan_scoped_disable_interceptor_checks();
+#elif defined(TARN_TEST_VALGRIND)
+        VALGRIND_DISABLE_ERROR_REPORTING;
+#endif
+    }
+
+    ~Unwatched()
+    {
+#if defined(TARN_TEST_MSAN)
+        __msan_scoped_enable_interceptor_checks();
+#elif defined(TARN_TEST_VALGRIND)
+        VALGRIND_ENABLE_ERROR_REPORTING;
+#endif
+    }
+
+    Unwatched(const Unwatched &) = delete;
+    Unwatched &operator=(const Unwatched &) = delete;
+};
+
+} // namespace test
