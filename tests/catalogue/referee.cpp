@@ -167,10 +167,20 @@ std::string Referee::disagreement(const RecordType &type) const
 
 test::Bytes Referee::encode(const Content &content)
 {
-    const pb::Descriptor &descriptor = schema_->message(*content.type);
-    const std::unique_ptr<pb::Message> message(schema_->factory.GetPrototype(&descriptor)->New());
-    fill(*message, content);
-    return test::characters(message->SerializeAsString());
+    return test::characters(message(content)->SerializeAsString());
+}
+
+std::unique_ptr<pb::Message> Referee::message(const RecordType &type)
+{
+    const pb::Descriptor &descriptor = schema_->message(type);
+    return std::unique_ptr<pb::Message>(schema_->factory.GetPrototype(&descriptor)->New());
+}
+
+std::unique_ptr<pb::Message> Referee::message(const Content &content)
+{
+    std::unique_ptr<pb::Message> filled = message(*content.type);
+    fill(*filled, content);
+    return filled;
 }
 
 std::string vectors_text(Referee &referee)

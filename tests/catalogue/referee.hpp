@@ -7,6 +7,7 @@
 #include "tests/catalogue/content.hpp"
 #include "tests/support/bytes.hpp"
 
+#include <google/protobuf/message.h>
 #include <memory>
 #include <string>
 
@@ -26,6 +27,11 @@ public:
     size_t message_count() const;
 
     test::Bytes encode(const Content &content);
+
+    // A message of the type with nothing in it, or with what the content says. It must not outlive
+    // the referee.
+    std::unique_ptr<google::protobuf::Message> message(const RecordType &type);
+    std::unique_ptr<google::protobuf::Message> message(const Content &content);
 
 private:
     struct Schema;
