@@ -37,9 +37,11 @@ struct Fixture {
     std::string pieces(uint32_t count) const
     {
         std::string all;
-        for (uint32_t i = 0; i < count; i++)
-            all += (i ? " " : "") + test::describe(segments[i], buffer.data(), buffer.length(),
-                                                   {{kData, "data"}, {kNoData, "no data"}});
+        for (uint32_t i = 0; i < count; i++) {
+            all += i ? " " : "";
+            all += test::describe(segments[i], buffer.data(), buffer.length(),
+                                  {{kData, "data"}, {kNoData, "no data"}});
+        }
         return all;
     }
 };

@@ -50,6 +50,7 @@ Bytes without(const std::vector<Bits> &bits, const Record &record)
 {
     Bytes bytes(sizeof record);
     memcpy(bytes.data(), &record, sizeof record);
+    make_defined(bytes.data(), bytes.size());
     for (const Bits &some : bits)
         for (size_t i = 0; i < some.mask.size(); i++)
             bytes[some.offset + i] = static_cast<uint8_t>(bytes[some.offset + i] & ~some.mask[i]);

@@ -22,6 +22,7 @@ Bytes memory_of(const Every &record)
 {
     Bytes bytes(sizeof record);
     memcpy(bytes.data(), &record, sizeof record);
+    make_defined(bytes.data(), bytes.size());
     return bytes;
 }
 
