@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/catalogue/blocks.hpp"
 
+#include "tests/support/undefined.hpp"
+
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <string.h>
@@ -22,6 +24,7 @@ void *Blocks::allocate(uint32_t size, void *blocks)
         return nullptr;
     uint8_t *block = new uint8_t[size];
     memset(block, 0xA5, size);
+    test::make_undefined(block, size);
     self.out_.emplace(block, size);
     return block;
 }

@@ -58,6 +58,7 @@ TEST(fieldless_types, encode_to_nothing)
         for (const uint32_t flags : {uint32_t{0}, WIRE_FLAG_BYTES_IN_PLACE}) {
             uint32_t count = 1;
             EXPECT_EQ(type.encode(nullptr, nullptr, 0, nullptr, nullptr, flags), 0u) << name;
+            EXPECT_EQ(type.encode(nullptr, buffer, 4, nullptr, nullptr, flags), 0u) << name;
             EXPECT_EQ(type.encode(nullptr, buffer, 4, pieces, &count, flags), 0u) << name;
             EXPECT_EQ(count, 0u) << name;
         }

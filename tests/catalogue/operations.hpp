@@ -33,7 +33,8 @@ public:
 
     const RecordType &type() const { return type_; }
     const void *record() const { return type_.size ? storage_.get() : nullptr; }
-    Bytes image() const { return Bytes(storage_.get(), storage_.get() + type_.size); }
+    // The memory as it is, gaps and all.
+    Bytes image() const;
     Blocks &blocks() { return blocks_; }
 
 private:

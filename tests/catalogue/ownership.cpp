@@ -3,6 +3,7 @@
 
 #include "tests/catalogue/layout.hpp"
 #include "tests/catalogue/memory.hpp"
+#include "tests/support/undefined.hpp"
 
 namespace catalogue {
 
@@ -114,6 +115,7 @@ test::Bytes released_image(const RecordType &type, const void *record, uint32_t 
 {
     const uint8_t *bytes = static_cast<const uint8_t *>(record);
     test::Bytes image(bytes, bytes + type.size);
+    test::make_defined(image.data(), image.size());
     release_in(type, image.data(), flags);
     return image;
 }

@@ -9,6 +9,30 @@ namespace catalogue {
 
 namespace {
 
+bool needs_block(const Member &member, const Value &value)
+{
+    return member.kind == Kind::bytes ? !value.text.empty() : is_on_wire(member, value);
+}
+
+// Takes away what needs a block, in embedded records, too. Tells whether there was any.
+bool take_away_blocks(Content &content)
+{
+    bool any = false;
+    for (size_t i = 0; i < content.values.size(); i++) {
+        const Member &member = content.type->members[i];
+        std::optional<Value> &value = content.values[i];
+        if (!value || is_scalar(member.kind))
+            continue;
+        if (member.kind == Kind::message) {
+            any = take_away_blocks(value->records[0]) || any;
+        } else if (needs_block(member, *value)) {
+            value.reset();
+            any = true;
+        }
+    }
+    return any;
+}
+
 TEST(duplicating, copies_every_member_and_shares_no_block)
 {
     for_each_case([](const Case &test_case, const Content &content) {
@@ -37,6 +61,24 @@ TEST(duplicating, copies_what_was_decoded_in_place_into_blocks_of_its_own)
         decoded.release();
         input.assign(input.size(), 0xA5);
         EXPECT_EQ(encode(type, copy.record()), sent);
+    });
+}
+
+TEST(duplicating, copies_without_memory_what_needs_no_block)
+{
+    const wire_alloc_fn allocators[] = {nullptr,
+                                        [](uint32_t, void *) -> void * { return nullptr; }};
+    for_each_case([&](const Case &test_case, const Content &content) {
+        const RecordType &type = *test_case.type;
+        const FilledRecord original(content);
+        Content rest = content;
+        const int32_t expected = take_away_blocks(rest) ? WIRE_ERR_NO_MEMORY : WIRE_OK;
+        for (const wire_alloc_fn alloc_fn : allocators) {
+            OwnedRecord copy(type);
+            void *record = const_cast<void *>(copy.record());
+            EXPECT_EQ(type.duplicate(record, original.record(), alloc_fn, nullptr), expected);
+            EXPECT_EQ(copy_difference(type, record, FilledRecord(rest).record()), "");
+        }
     });
 }
 

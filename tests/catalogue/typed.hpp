@@ -6,6 +6,7 @@
 #include "tests/catalogue/blocks.hpp"
 #include "tests/catalogue/catalogue.hpp"
 #include "tests/support/bytes.hpp"
+#include "tests/support/undefined.hpp"
 
 #include <gtest/gtest.h>
 #include <string.h>
@@ -39,6 +40,7 @@ Bytes encoded(const Record &record)
 {
     constexpr auto encode = Operations<Record>::encode;
     Bytes buffer(encode(&record, nullptr, 0, nullptr, nullptr, 0));
+    test::make_undefined(buffer.data(), buffer.size());
     EXPECT_EQ(encode(&record, buffer.data(), buffer.length(), nullptr, nullptr, 0), buffer.size());
     return buffer;
 }
@@ -50,6 +52,7 @@ public:
     explicit Received(const Bytes &input, uint32_t flags = 0) : input_(input), flags_(flags)
     {
         memset(&record, 0xA5, sizeof record);
+        test::make_undefined(&record, sizeof record);
         result = Operations<Record>::decode(&record, input_.data(), input_.length(),
                                             Blocks::allocate, &blocks, flags_);
     }

@@ -4,6 +4,8 @@
 
 #pragma once
 
+#include "tests/support/undefined.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -70,6 +72,7 @@ private:
             return nullptr;
         uint8_t *data = static_cast<uint8_t *>(std::malloc(size_t{size} + kMargin));
         std::memset(data, kRubbish, size_t{size} + kMargin);
+        make_undefined(data, size);
         blocks_.push_back({data, size, request});
         return data;
     }

@@ -7,6 +7,7 @@
 #include "tests/support/blocks.hpp"
 #include "tests/support/bytes.hpp"
 #include "tests/support/segments.hpp"
+#include "tests/support/undefined.hpp"
 
 #include <cstring>
 #include <string>
@@ -40,11 +41,16 @@ Encoding encode_into(uint32_t capacity, uint32_t array_capacity, const Record &r
 {
     Encoding result{0, Bytes(capacity, Encoding::kUntouched), array_capacity, {}};
     std::vector<WireSegment> segments(array_capacity);
+    make_undefined(result.buffer.data(), capacity);
+    make_undefined(segments.data(), array_capacity * sizeof(WireSegment));
     result.length = CodecFor<Record>::encode(&record, result.buffer.data(), capacity,
                                              segments.data(), &result.count, flags);
-    for (uint32_t i = 0; i < result.count && i < array_capacity; i++)
-        result.pieces +=
-            (i ? " " : "") + describe(segments[i], result.buffer.data(), capacity, others);
+    make_defined(result.buffer.data(), capacity);
+    make_defined(segments.data(), array_capacity * sizeof(WireSegment));
+    for (uint32_t i = 0; i < result.count && i < array_capacity; i++) {
+        result.pieces += i ? " " : "";
+        result.pieces += describe(segments[i], result.buffer.data(), capacity, others);
+    }
     return result;
 }
 
@@ -53,6 +59,7 @@ template <typename Record>
 Bytes encode(const Record &record, uint32_t flags = 0)
 {
     Bytes buffer(measure(record, flags), Encoding::kUntouched);
+    make_undefined(buffer.data(), buffer.size());
     const uint32_t length =
         CodecFor<Record>::encode(&record, buffer.data(), buffer.length(), nullptr, nullptr, flags);
     EXPECT_EQ(length, buffer.size()) << "measured otherwise";
@@ -77,7 +84,11 @@ public:
     Record record;
     Blocks blocks;
 
-    explicit Owner(uint8_t rubbish = 0xA5) { std::memset(&record, rubbish, sizeof record); }
+    explicit Owner(uint8_t rubbish = 0xA5)
+    {
+        std::memset(&record, rubbish, sizeof record);
+        make_undefined(&record, sizeof record);
+    }
 
     ~Owner()
     {
