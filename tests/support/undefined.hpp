@@ -32,12 +32,20 @@ namespace test {
 
 #ifdef TARN_TEST_MSAN
 // New blocks count as written: what the C++ library writes into them is not seen, and that a block
-// was made undefined in an earlier life is no concern of its next owner.
-inline const int new_blocks_are_defined = __sanitizer_install_malloc_and_free_hooks(
-    [](const volatile void *block, size_t size) {
-        __msan_unpoison(const_cast<const void *>(block), size);
-    },
-    [](const volatile void *) {});
+// was made undefined in an earlier life is no concern of its next owner. Called from inside of the
+// allocator, so that nothing may be added to these functions.
+__attribute__((disable_sanitizer_instrumentation)) inline void
+define_new_block(const volatile void *block, size_t size)
+{
+    __msan_unpoison(block, size);
+}
+
+__attribute__((disable_sanitizer_instrumentation)) inline void
+ignore_freed_block(const volatile void *)
+{}
+
+inline const int new_blocks_are_defined =
+    __sanitizer_install_malloc_and_free_hooks(define_new_block, ignore_freed_block);
 #endif
 
 // The bytes stay, but count as never written.
