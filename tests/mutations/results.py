@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# The table of results.md: one row for each fault, kept from run to run until the fault is run again.
+# The table of results.md: one row for each fault, kept until the fault is run again.
 from collections import Counter
 from dataclasses import dataclass
 from pathlib import Path
@@ -8,8 +8,8 @@ FILE = Path(__file__).parent / "results.md"
 SURVIVED = "nothing"
 HEAD = """# Which test catches which fault
 
-Written by `scripts/mutate`; see [README.md](README.md). Each row is the first test that failed after
-the fault had been planted. The quickest programs run first, so a fault may well fail others, too.
+Written by `scripts/mutate`; see [README.md](README.md). Each row is the first test that failed
+after the fault had been planted. The quickest programs run first, so a fault may fail others, too.
 """
 
 
@@ -51,5 +51,6 @@ def write(faults, rows):
     lines += ["| Fault | File | What goes wrong | Preset | Caught by |", "|---|---|---|---|---|"]
     for fault in faults:
         row = rows.get(fault.id, NOT_RUN)
-        lines.append(f"| `{fault.id}` | `{fault.file}` | {fault.wrong} | {row.preset} | {row.test} |")
+        lines.append(f"| `{fault.id}` | `{fault.file}` | {fault.wrong} "
+                     f"| {row.preset} | {row.test} |")
     FILE.write_text("\n".join(lines) + "\n")
