@@ -42,8 +42,10 @@ uint32_t Decoder::skip(uint32_t tag, const uint8_t *flags, uint32_t members)
         return stop(error);
     if (position_ <= tag_start_) {
         uint64_t present = 0;
-        if (members) // a record without any may be null
+        if (members) { // a record without any may be null
             memcpy(&present, flags, (members + 7) / 8);
+            present &= ~uint64_t{0} >> (64 - members); // the other bits are not ours to read
+        }
         if (watch_.comes_back(position_, present))
             return stop(WIRE_ERR_MALFORMED);
     }

@@ -63,6 +63,26 @@ void expect_endless(const Bytes &input, size_t most_requests = 0)
     }
 }
 
+// A caller that writes to the bits behind the last member's flag, which are nobody's, while its
+// record is decoded.
+struct Scribbler {
+    // Nine members: all bits of one byte and the first of the next.
+    static constexpr size_t kLastFlags = offsetof(Every, leaves_count) + sizeof(uint32_t) + 1;
+
+    Every record = {};
+    uint8_t block[8] = {};
+    uint32_t requests = 0;
+
+    static void *take(uint32_t, void *scribbler)
+    {
+        auto *self = static_cast<Scribbler *>(scribbler);
+        self->requests++;
+        uint8_t *flags = reinterpret_cast<uint8_t *>(&self->record) + kLastFlags;
+        *flags = static_cast<uint8_t>((*flags & 1) | self->requests << 1);
+        return self->block;
+    }
+};
+
 } // namespace
 
 TEST(an_endless_message, is_malformed)
@@ -115,6 +135,17 @@ TEST(an_endless_message, may_be_for_a_record_with_many_flags)
 {
     // Field 63 is the first that it does not have, and takes two bytes.
     expect_endless<Large>({0x08, 1, 0xF0, 0x03, 1, 0xFA, 0x03, 0xF4, 0xFF, 0xFF, 0xFF, 0x0F});
+}
+
+TEST(an_endless_message, is_seen_whatever_the_unused_flag_bits_hold)
+{
+    Scribbler scribbler;
+    const Deadline deadline(kSeconds);
+    const Bytes input = join({{0x32, 3, 0x12, 1, 'a'}, jump(5, 0)});
+    EXPECT_EQ(CodecFor<Every>::decode(&scribbler.record, input.data(), input.length(),
+                                      Scribbler::take, &scribbler, 0),
+              WIRE_ERR_MALFORMED);
+    EXPECT_LE(scribbler.requests, 4u);
 }
 
 // From the start to the last jump, from there one back at a time, to the start again.
