@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdarg>
 #include <cstdio>
+#include <optional>
 
 namespace model {
 
@@ -75,6 +76,23 @@ TARN_TEST_UNWATCHED ptrdiff_t first_difference(const Side &library, const Block 
     return end;
 }
 
+struct Spot {
+    size_t block;
+    ptrdiff_t at;
+};
+
+std::optional<Spot> first_difference(const Side &library, const Side &model)
+{
+    const auto &left = library.memory.blocks();
+    const auto &right = model.memory.blocks();
+    for (size_t i = 0; i < std::min(left.size(), right.size()); ++i) {
+        const ptrdiff_t at = first_difference(library, left[i], model, right[i]);
+        if (at != watched_end(left[i]))
+            return Spot{i, at};
+    }
+    return {};
+}
+
 std::string member_at(const RecordType &type, uint32_t offset)
 {
     if (offset >= type.flags_offset)
@@ -128,24 +146,29 @@ std::string describe_member(const Member &member, const uint8_t *at, int depth)
 
 } // namespace
 
+bool same_memory(const Side &library, const Side &model)
+{
+    return !first_difference(library, model) &&
+           library.memory.blocks().size() == model.memory.blocks().size();
+}
+
 std::string compare_memory(const Side &library, const Side &model)
 {
     const auto &left = library.memory.blocks();
     const auto &right = model.memory.blocks();
-    for (size_t i = 0; i < std::min(left.size(), right.size()); ++i) {
-        const ptrdiff_t at = first_difference(library, left[i], model, right[i]);
-        if (at == watched_end(left[i]))
-            continue;
-        std::string text = format("%s (block %zu, %u bytes) differs at offset %td", left[i].purpose,
-                                  i, left[i].size, at);
-        if (left[i].type && left[i].type->size && at >= 0 && at < ptrdiff_t(left[i].size))
-            text += ", element " + std::to_string(uint32_t(at) / left[i].type->size) + ", " +
-                    member_at(*left[i].type, uint32_t(at) % left[i].type->size);
-        const ptrdiff_t from = std::max<ptrdiff_t>(at - 16, -ptrdiff_t(left[i].before));
-        const auto shown = size_t(std::min<ptrdiff_t>(watched_end(left[i]) - from, 48));
+    if (const std::optional<Spot> found = first_difference(library, model)) {
+        const Block &block = left[found->block];
+        const ptrdiff_t at = found->at;
+        std::string text = format("%s (block %zu, %u bytes) differs at offset %td", block.purpose,
+                                  found->block, block.size, at);
+        if (block.type && block.type->size && at >= 0 && at < ptrdiff_t(block.size))
+            text += ", element " + std::to_string(uint32_t(at) / block.type->size) + ", " +
+                    member_at(*block.type, uint32_t(at) % block.type->size);
+        const ptrdiff_t from = std::max<ptrdiff_t>(at - 16, -ptrdiff_t(block.before));
+        const auto shown = size_t(std::min<ptrdiff_t>(watched_end(block) - from, 48));
         return text + "\n  library from " + std::to_string(from) + ": " +
-               hex(left[i].data + from, shown) +
-               "\n  model:        " + hex(right[i].data + from, shown);
+               hex(block.data + from, shown) +
+               "\n  model:        " + hex(right[found->block].data + from, shown);
     }
     if (left.size() != right.size())
         return format("%zu blocks in the library's memory, %zu in the model's", left.size(),

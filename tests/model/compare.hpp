@@ -10,6 +10,8 @@
 
 namespace model {
 
+bool same_memory(const Side &library, const Side &model);
+
 // Each returns an empty text when there is no difference, else a readable account of the first.
 std::string compare_memory(const Side &library, const Side &model);
 std::string compare_allocations(const Side &library, const Side &model);
