@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "runtime/decoder.hpp"
 
-#include <string.h>
+#include "runtime/presence.hpp"
 
 namespace tarn {
 
@@ -40,15 +40,8 @@ uint32_t Decoder::skip(uint32_t tag, const uint8_t *flags, uint32_t members)
 {
     if (int32_t error = wire_skip_field(wire_type_of(tag), &position_, buffer_, length_))
         return stop(error);
-    if (position_ <= tag_start_) {
-        uint64_t present = 0;
-        if (members) { // a record without any may be null
-            memcpy(&present, flags, (members + 7) / 8);
-            present &= ~uint64_t{0} >> (64 - members); // the other bits are not ours to read
-        }
-        if (watch_.comes_back(position_, present))
-            return stop(WIRE_ERR_MALFORMED);
-    }
+    if (position_ <= tag_start_ && watch_.comes_back(position_, all_flags(flags, members)))
+        return stop(WIRE_ERR_MALFORMED);
     return next_tag();
 }
 

@@ -32,6 +32,16 @@ uint32_t present_members(const uint8_t *flags)
     return static_cast<uint32_t>(bits >> kShift) & kMask;
 }
 
+// All flags of a record that has up to 64 members.
+inline uint64_t all_flags(const uint8_t *flags, uint32_t members)
+{
+    uint64_t bits = 0;
+    if (members == 0) // such a record may be null
+        return bits;
+    memcpy(&bits, flags, (members + 7) / 8);
+    return bits & ~uint64_t{0} >> (64 - members);
+}
+
 // The member bits of the last flag byte.
 constexpr uint8_t last_flags_mask(uint32_t members)
 {
