@@ -3,7 +3,7 @@
 
 JOBS := $(shell nproc)
 
-.PHONY: all demo test regenerate check-generated format clean
+.PHONY: all demo test bench regenerate check-generated format clean
 
 all:
 	cmake --preset release
@@ -20,6 +20,10 @@ demo:
 test:
 	@scripts/install-packages test
 	@scripts/run-tests
+
+# Installs what is missing, and measures the library beside its peers on x86_64 and i686.
+bench:
+	@scripts/bench
 
 # After a change of the schema: writes the record files anew, or only compares.
 regenerate:
