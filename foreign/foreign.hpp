@@ -20,37 +20,68 @@ template <typename Record, auto encode_ext, auto decode_ext, auto duplicate_, au
           auto initialise_>
 struct ForeignCodec {
     static constexpr uint32_t size = sizeof(Record);
+    static constexpr bool is_plain = true; // both types hold nothing but numbers
+    static constexpr bool owns_memory = true;
+    static constexpr bool defaults_are_zero = false; // or nobody knows here
+
+    // Only that library knows.
+    static bool is_surely_empty(const void *) { return false; }
 
     static void initialise(void *record) { initialise_(record); }
 
-    static uint32_t measure(const void *record, uint32_t flags)
+    TARN_CALL static uint32_t measure(const void *record, uint32_t flags)
     {
         return encode_ext(static_cast<const Record *>(record), nullptr, 0, nullptr, nullptr, flags);
     }
 
-    static void write(Encoder &out, const void *record)
+    // The last of the pieces is the whole of it, which is for the caller to report, as it is for
+    // all records, unless byte strings are pieces, too: then the caller does not look at the
+    // length.
+    TARN_CALL static uint32_t write(uint32_t offset, Encoder &out, const void *record)
     {
+        const uint32_t room = out.room(offset);
         uint32_t segments = out.free_segment_count();
-        encode_ext(static_cast<const Record *>(record), out.buffer(), out.capacity(),
-                   out.free_segments(), &segments, out.flags());
-        out.step_over(0, segments);
+        const uint32_t length =
+            encode_ext(static_cast<const Record *>(record), room ? out.at(offset) : nullptr, room,
+                       out.free_segments(), &segments, out.flags());
+        if (!out.is_trying()) {
+            out.count_segments(segments);
+            return 0;
+        }
+        if (length > room)
+            return out.give_up();
+        if (length)
+            out.count_segments(segments - 1);
+        return offset + length;
     }
 
-    static int32_t decode(void *record, const uint8_t *buf, uint32_t len, wire_alloc_fn alloc_fn,
-                          void *alloc_ctx, uint32_t flags)
+    TARN_CALL static void decode_anew(Decoder &in, void *record)
     {
-        return decode_ext(static_cast<Record *>(record), buf, len, alloc_fn, alloc_ctx, flags);
+        const Decoder::Extent message = in.extent();
+        const uint32_t length = static_cast<uint32_t>(message.end - message.begin);
+        if (int32_t error = decode_ext(static_cast<Record *>(record), message.begin, length,
+                                       in.memory().alloc_fn, in.memory().alloc_ctx, in.flags()))
+            in.fail(error);
     }
 
-    static int32_t duplicate(void *dst, const void *src, wire_alloc_fn alloc_fn, void *alloc_ctx)
+    TARN_CALL static void decode_fields(Decoder &in, void *record) { decode_anew(in, record); }
+    TARN_CALL static void decode_element(Decoder &in, void *record) { decode_anew(in, record); }
+
+    // Everything is copied by the library it belongs to.
+    static void copy_bytes(void *, const void *) {}
+
+    TARN_CALL static void copy_blocks(Copier &copier, void *dst, const void *src)
     {
-        return duplicate_(static_cast<Record *>(dst), static_cast<const Record *>(src), alloc_fn,
-                          alloc_ctx);
+        const Memory &memory = copier.memory();
+        if (int32_t error = duplicate_(static_cast<Record *>(dst), static_cast<const Record *>(src),
+                                       memory.alloc_fn, memory.alloc_ctx))
+            copier.fail(error);
     }
 
-    static void release(void *record, wire_free_fn free_fn, void *free_ctx, uint32_t flags)
+    TARN_CALL static void release_blocks(const Releaser &releaser, void *record)
     {
-        free_ext(static_cast<Record *>(record), free_fn, free_ctx, flags);
+        free_ext(static_cast<Record *>(record), releaser.free_fn, releaser.free_ctx,
+                 releaser.flags);
     }
 };
 

@@ -43,43 +43,58 @@ class Codec {
 
 public:
     static constexpr uint32_t size = layout.size;
+    // Nothing but numbers all the way down.
+    static constexpr bool is_plain = layout.has_only_numbers() && (Children::is_plain && ...);
+    // Whether a record may have blocks to release.
+    static constexpr bool owns_memory = layout.has_pointers() || (Children::owns_memory || ...);
+    static constexpr bool defaults_are_zero = (Children::defaults_are_zero && ...);
 
-    static uint32_t measure(const void *record, uint32_t flags)
+    // Without its flags nothing is written of a record, but for what is embedded in it.
+    TARN_INLINE static bool is_surely_empty(const void *record)
+    {
+        const uint8_t *bytes = static_cast<const uint8_t *>(record);
+        bool empty = all_flags<layout.members>(bytes + layout.flags) == 0;
+        for_each_run([&]<Run run, typename Child>() TARN_INLINE {
+            if constexpr (run.kind == Kind::message)
+                empty = empty && Child::is_surely_empty(bytes + run.offset);
+        });
+        return empty;
+    }
+
+    TARN_CALL static uint32_t measure(const void *record, uint32_t flags)
     {
         const uint8_t *bytes = static_cast<const uint8_t *>(record);
         uint32_t offset = 0;
-        for_each_run([&]<Run run, typename Child>() {
+        for_each_run([&]<Run run, typename Child>() TARN_INLINE {
             offset = measure_run<run, Child>(offset, bytes, bytes + layout.flags, flags);
         });
         return offset;
     }
 
-    static void write(Encoder &out, const void *record)
+    TARN_CALL static uint32_t write(uint32_t offset, Encoder &out, const void *record)
     {
         const uint8_t *bytes = static_cast<const uint8_t *>(record);
-        for_each_run([&]<Run run, typename Child>() {
-            write_run<run, Child>(out, bytes, bytes + layout.flags);
+        const Encoder::Roomy roomy = out.roomy();
+        for_each_run([&]<Run run, typename Child>() TARN_INLINE {
+            offset = write_run<run, Child>(offset, out, roomy, bytes, bytes + layout.flags);
         });
-        out.finish();
+        return offset;
     }
 
-    static uint32_t encode(const void *record, uint8_t *buffer, uint32_t capacity,
-                           WireSegment *segments, uint32_t *segment_count, uint32_t flags)
+    [[gnu::noinline]] static uint32_t encode(const void *record, uint8_t *buffer, uint32_t capacity,
+                                             WireSegment *segments, uint32_t *segment_count,
+                                             uint32_t flags)
     {
         if (capacity == 0 && !segment_count)
             return measure(record, flags);
-        Encoder out(buffer, capacity, segments, segment_count, flags);
-        write(out, record);
-        if (segment_count)
-            *segment_count = out.segment_count();
-        return out.offset();
+        return encode_record(record, buffer, capacity, segments, segment_count, flags, write);
     }
 
     static void initialise(void *record)
     {
         uint8_t *bytes = static_cast<uint8_t *>(record);
-        for_each_span([&]<Span span>() { memset(bytes + span.offset, 0, span.size); });
-        for_each_run([&]<Run run, typename Child>() {
+        for_each_span([&]<Span span>() TARN_INLINE { memset(bytes + span.offset, 0, span.size); });
+        for_each_run([&]<Run run, typename Child>() TARN_INLINE {
             if constexpr (run.kind == Kind::message)
                 Child::initialise(bytes + run.offset);
         });
@@ -87,52 +102,95 @@ public:
             clear_flags<layout.members>(bytes + layout.flags);
     }
 
-    static int32_t decode(void *record, const uint8_t *buf, uint32_t len, wire_alloc_fn alloc_fn,
-                          void *alloc_ctx, uint32_t flags)
+    [[gnu::noinline]] static int32_t decode(void *record, const uint8_t *buf, uint32_t len,
+                                            wire_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
     {
         initialise(record);
-        return decode_fields(record, Decoder(buf, len, {alloc_fn, alloc_ctx}, flags));
-    }
-
-    // Decodes into a record that has its defaults already.
-    static int32_t decode_fields(void *record, Decoder in)
-    {
-        uint8_t *bytes = static_cast<uint8_t *>(record);
-        uint8_t *presence = bytes + layout.flags;
-        uint32_t tag = in.next_tag();
-        while (tag != kStop) {
-            const uint32_t position = in.position();
-            for_each_run([&]<Run run, typename Child>() {
-                tag = decode_run<run, Child>(in, tag, bytes, presence);
-            });
-            // Whoever takes a tag reads on behind it.
-            if (tag != kStop && in.position() == position)
-                tag = in.skip(tag, presence, layout.members);
-        }
+        Decoder in(buf, len, {alloc_fn, alloc_ctx}, flags);
+        decode_fields(in, record);
         return in.result();
     }
 
-    static int32_t duplicate(void *dst, const void *src, wire_alloc_fn alloc_fn, void *alloc_ctx)
+    // Decodes into a record that has its defaults already.
+    TARN_CALL static void decode_fields(Decoder &in, void *record)
     {
-        uint8_t *to = static_cast<uint8_t *>(dst);
-        const uint8_t *from = static_cast<const uint8_t *>(src);
-        for_each_span(
-            [&]<Span span>() { memcpy(to + span.offset, from + span.offset, span.size); });
-        if constexpr (layout.members > 0)
-            copy_flags<layout.members>(to + layout.flags, from + layout.flags);
+        uint8_t *bytes = static_cast<uint8_t *>(record);
+        Cursor cursor = in.first_tag();
+        LoopWatch watch;
+        while (cursor.tag != kStop) {
+            const uint8_t *at = cursor.at;
+            for_each_run([&]<Run run, typename Child>() TARN_INLINE {
+                cursor = decode_run<run, Child>(cursor, in, bytes, layout.flags);
+            });
+            // Whoever takes a tag reads on behind it.
+            if (cursor.tag != kStop && cursor.at == at)
+                cursor = in.skip(cursor, watch, bytes + layout.flags, layout.members);
+        }
+    }
+
+    // Decodes into whatever is there.
+    TARN_CALL static void decode_anew(Decoder &in, void *record)
+    {
+        initialise(record);
+        decode_fields(in, record);
+    }
+
+    // Decodes into an element of a list, which was cleared.
+    TARN_CALL static void decode_element(Decoder &in, void *record)
+    {
+        defaults_are_zero ? decode_fields(in, record) : decode_anew(in, record);
+    }
+
+    [[gnu::noinline]] static int32_t duplicate(void *dst, const void *src, wire_alloc_fn alloc_fn,
+                                               void *alloc_ctx)
+    {
+        copy_bytes(dst, src);
+        if constexpr (!owns_memory)
+            return WIRE_OK;
         Copier copier({alloc_fn, alloc_ctx});
-        for_each_run([&]<Run run, typename Child>() {
-            if constexpr (owns_memory(run.kind))
-                duplicate_run<run, Child>(copier, to, from, to + layout.flags);
-        });
+        copy_blocks(copier, dst, src);
         return copier.result();
     }
 
-    static void release(void *record, wire_free_fn free_fn, void *free_ctx, uint32_t flags)
+    // Copies the members and the flags, and leaves the gaps between them alone.
+    TARN_INLINE static void copy_bytes(void *dst, const void *src)
     {
-        const Releaser releaser{free_fn, free_ctx, flags};
-        for_each_run([&]<Run run, typename Child>() {
-            if constexpr (owns_memory(run.kind))
+        uint8_t *to = static_cast<uint8_t *>(dst);
+        const uint8_t *from = static_cast<const uint8_t *>(src);
+        for_each_span([&]<Span span>()
+                          TARN_INLINE { memcpy(to + span.offset, from + span.offset, span.size); });
+        for_each_run([&]<Run run, typename Child>() TARN_INLINE {
+            if constexpr (run.kind == Kind::message)
+                Child::copy_bytes(to + run.offset, from + run.offset);
+        });
+        if constexpr (layout.members > 0)
+            copy_flags<layout.members>(to + layout.flags, from + layout.flags);
+    }
+
+    // Gives a record that is a copy of another, byte by byte, blocks of its own.
+    TARN_CALL static void copy_blocks(Copier &copier, void *dst, const void *src)
+    {
+        uint8_t *to = static_cast<uint8_t *>(dst);
+        const uint8_t *from = static_cast<const uint8_t *>(src);
+        for_each_run([&]<Run run, typename Child>() TARN_INLINE {
+            if constexpr (!is_scalar(run.kind))
+                duplicate_run<run, Child>(copier, to, from, to + layout.flags);
+        });
+    }
+
+    [[gnu::noinline]] static void release([[maybe_unused]] void *record,
+                                          [[maybe_unused]] wire_free_fn free_fn,
+                                          [[maybe_unused]] void *free_ctx,
+                                          [[maybe_unused]] uint32_t flags)
+    {
+        if constexpr (owns_memory)
+            release_blocks({free_fn, free_ctx, flags}, record);
+    }
+
+    TARN_CALL static void release_blocks(const Releaser &releaser, void *record)
+    {
+        for_each_run([&]<Run run, typename Child>() TARN_INLINE {
+            if constexpr (!is_scalar(run.kind))
                 release_run<run, Child>(releaser, static_cast<uint8_t *>(record));
         });
     }
@@ -145,27 +203,27 @@ private:
     using ChildOf = typename ChildAt<nested_runs_before(layout, run), Children...>::Type;
 
     template <typename Function>
-    static void for_each_run(Function function)
+    TARN_INLINE static void for_each_run(Function function)
     {
         call_for_runs(function, Runs());
     }
 
     template <typename Function, uint32_t... i>
-    static void call_for_runs([[maybe_unused]] Function function,
-                              std::integer_sequence<uint32_t, i...>)
+    TARN_INLINE static void call_for_runs([[maybe_unused]] Function function,
+                                          std::integer_sequence<uint32_t, i...>)
     {
         (function.template operator()<layout.runs[i], ChildOf<i>>(), ...);
     }
 
     template <typename Function>
-    static void for_each_span(Function function)
+    TARN_INLINE static void for_each_span(Function function)
     {
         call_for_spans(function, Spans());
     }
 
     template <typename Function, uint32_t... i>
-    static void call_for_spans([[maybe_unused]] Function function,
-                               std::integer_sequence<uint32_t, i...>)
+    TARN_INLINE static void call_for_spans([[maybe_unused]] Function function,
+                                           std::integer_sequence<uint32_t, i...>)
     {
         (function.template operator()<layout.spans[i]>(), ...);
     }

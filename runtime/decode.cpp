@@ -4,6 +4,7 @@
 #include "runtime/decode_steps.hpp"
 #include "runtime/member.hpp"
 #include "runtime/presence.hpp"
+#include "wire/copy.hpp"
 
 #include <string.h>
 
@@ -11,41 +12,86 @@ namespace tarn {
 
 namespace {
 
-// Reads one varint for each of its tags into members[0] to members[count - 1]; a value that comes
-// again replaces the one before.
-template <typename Wide, typename Member, typename Store>
-uint32_t decode_scalars(Decoder &in, uint32_t tag, Member *members, uint32_t count,
-                        const DecodedRun &run, Store store)
+// The place in its run of the member that a tag belongs to; the wire type, which ought to be 0,
+// stands above it. Other tags give a number that is too large for every run.
+uint32_t place_in_run(uint32_t tag, const DecodedRun &run)
 {
-    uint32_t index;
-    while ((index = field_number_of(tag) - run.number) < count) {
-        if (int32_t error = check_wire_type(tag, kVarint))
-            return in.stop(error);
-        Wide value;
-        if (int32_t error = in.read(&value))
-            return in.stop(error);
-        members[index] = store(value);
-        set_flag(run.flags, run.first_bit + index);
-        tag = in.next_tag();
-    }
-    return tag;
+    const uint32_t distance = tag - make_tag(run.number, kVarint);
+    return distance >> 3 | distance << 29;
 }
 
-int32_t read_bytes(Decoder &in, uint8_t *member)
+// Reads one varint for each of its tags into the members of the run; a value that comes again
+// replaces the one before. Flags are gathered and set together at the end.
+template <typename Wide, typename Member, typename Store>
+HandedBack decode_scalars(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run, Store store)
+{
+    uint32_t place = place_in_run(cursor.tag, run);
+    if (place < run.count) {
+        Member *const members = reinterpret_cast<Member *>(record + run.offset);
+        const uint32_t count = run.count;
+        uint32_t present = 0;
+        do {
+            Wide value;
+            const uint8_t *at = in.read(cursor.at, &value);
+            if (!at) {
+                cursor = {at, kStop};
+                break;
+            }
+            members[place] = store(value);
+            present |= 1u << place;
+            cursor = in.next_tag(at);
+            place = place_in_run(cursor.tag, run);
+        } while (place < count);
+        set_flags(record + run.flags, run.first_bit, present);
+    }
+    if (field_number_of(cursor.tag) - run.number < run.count)
+        return in.stop(WIRE_ERR_TYPE_MISMATCH);
+    return cursor;
+}
+
+// The same for a run of one.
+template <typename Wide, typename Member, typename Store>
+HandedBack decode_scalar(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run, Store store)
+{
+    if (!is_field(cursor.tag, run))
+        return cursor;
+    if (wire_type_of(cursor.tag) != kVarint)
+        return in.stop(WIRE_ERR_TYPE_MISMATCH);
+    Wide value;
+    const uint8_t *at = in.read(cursor.at, &value);
+    if (!at)
+        return Cursor{at, kStop};
+    *reinterpret_cast<Member *>(record + run.offset) = store(value);
+    set_flag(record + run.flags, run.first_bit);
+    return in.next_tag(at);
+}
+
+template <typename Value>
+Value as_it_is(Value value)
+{
+    return value;
+}
+
+// A bool is what 32 bits of its varint say: a multiple of 2^32 is false.
+uint8_t as_truth(uint32_t value)
+{
+    return value != 0;
+}
+
+const uint8_t *read_bytes(Decoder &in, const uint8_t *at, uint8_t *member)
 {
     uint32_t length;
-    if (int32_t error = in.read_length(&length))
-        return error;
-    if (in.bytes_in_place()) {
-        store_block(member, in.take(length), length);
-        return WIRE_OK;
+    if (!(at = in.read_length(at, &length)))
+        return nullptr;
+    const uint8_t *bytes = at;
+    if (!in.bytes_in_place()) {
+        void *block = in.memory().allocate(length);
+        if (!block)
+            return in.fail(WIRE_ERR_NO_MEMORY);
+        bytes = static_cast<uint8_t *>(memcpy(block, at, length));
     }
-    void *block = in.memory().allocate(length);
-    if (!block)
-        return WIRE_ERR_NO_MEMORY;
-    memcpy(block, in.take(length), length);
-    store_block(member, block, length);
-    return WIRE_OK;
+    store_block(member, bytes, length);
+    return at + length;
 }
 
 } // namespace
@@ -53,98 +99,107 @@ int32_t read_bytes(Decoder &in, uint8_t *member)
 int32_t check_pointer_member(uint32_t tag, WireType expected, const uint8_t *member,
                              bool has_memory)
 {
-    if (int32_t error = check_wire_type(tag, expected))
-        return error;
+    if (wire_type_of(tag) != expected)
+        return WIRE_ERR_TYPE_MISMATCH;
     if (load_pointer(member))
         return WIRE_ERR_MALFORMED;
     return has_memory ? WIRE_OK : WIRE_ERR_NO_MEMORY;
 }
 
-int32_t read_text(Decoder &in, uint8_t *member)
+const uint8_t *read_text(Decoder &in, const uint8_t *at, uint8_t *member)
 {
     uint32_t length;
-    if (int32_t error = in.read_length(&length))
-        return error;
+    if (!(at = in.read_length(at, &length)))
+        return nullptr;
     char *text = static_cast<char *>(in.memory().allocate(uint64_t{length} + 1));
     if (!text)
-        return WIRE_ERR_NO_MEMORY;
+        return in.fail(WIRE_ERR_NO_MEMORY);
     store_pointer(member, text);
-    memcpy(text, in.take(length), length);
+    copy_short(text, at, length);
     text[length] = '\0';
-    return WIRE_OK;
+    return at + length;
 }
 
-int32_t read_message(Decoder &in, uint8_t *record, DecodeRecord decode)
+const uint8_t *read_message(Decoder &in, const uint8_t *at, uint8_t *record, DecodeRecord decode)
 {
     uint32_t length;
-    if (int32_t error = in.read_length(&length))
-        return error;
-    const uint8_t *body = in.take(length);
-    return decode(record, body, length, in.memory().alloc_fn, in.memory().alloc_ctx, in.flags());
+    if (!(at = in.read_length(at, &length)))
+        return nullptr;
+    const Decoder::Extent outer = in.enter(at, length);
+    decode(in, record);
+    in.leave(outer);
+    return in.result() ? nullptr : at + length;
 }
 
-uint32_t finish_field(Decoder &in, const DecodedRun &run, int32_t error)
+HandedBack finish_field(Decoder &in, const uint8_t *at, uint8_t *record, DecodedRun run)
 {
-    if (error)
+    if (!at)
+        return Cursor{at, kStop};
+    set_flag(record + run.flags, run.first_bit);
+    return in.next_tag(at);
+}
+
+HandedBack decode_uint32s(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
+{
+    return decode_scalars<uint32_t, uint32_t>(cursor, in, record, run, as_it_is<uint32_t>);
+}
+
+HandedBack decode_uint64s(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
+{
+    return decode_scalars<uint64_t, uint64_t>(cursor, in, record, run, as_it_is<uint64_t>);
+}
+
+HandedBack decode_bools(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
+{
+    return decode_scalars<uint32_t, uint8_t>(cursor, in, record, run, as_truth);
+}
+
+HandedBack decode_uint32(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
+{
+    return decode_scalar<uint32_t, uint32_t>(cursor, in, record, run, as_it_is<uint32_t>);
+}
+
+HandedBack decode_uint64(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
+{
+    return decode_scalar<uint64_t, uint64_t>(cursor, in, record, run, as_it_is<uint64_t>);
+}
+
+HandedBack decode_bool(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
+{
+    return decode_scalar<uint32_t, uint8_t>(cursor, in, record, run, as_truth);
+}
+
+HandedBack decode_string(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
+{
+    if (!is_field(cursor.tag, run))
+        return cursor;
+    uint8_t *member = record + run.offset;
+    if (int32_t error =
+            check_pointer_member(cursor.tag, kLengthDelimited, member, in.memory().alloc_fn))
         return in.stop(error);
-    set_flag(run.flags, run.first_bit);
-    return in.next_tag();
+    return finish_field(in, read_text(in, cursor.at, member), record, run);
 }
 
-uint32_t decode_uint32s(Decoder &in, uint32_t tag, uint32_t *members, uint32_t count,
-                        DecodedRun run)
+HandedBack decode_bytes(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
 {
-    return decode_scalars<uint32_t>(in, tag, members, count, run,
-                                    [](uint32_t value) { return value; });
+    if (!is_field(cursor.tag, run))
+        return cursor;
+    uint8_t *member = record + run.offset;
+    if (int32_t error = check_pointer_member(cursor.tag, kLengthDelimited, member,
+                                             in.bytes_in_place() || in.memory().alloc_fn))
+        return in.stop(error);
+    return finish_field(in, read_bytes(in, cursor.at, member), record, run);
 }
 
-uint32_t decode_uint64s(Decoder &in, uint32_t tag, uint64_t *members, uint32_t count,
-                        DecodedRun run)
+// No test for an earlier one: it is replaced. What the first had attached is the arena's.
+HandedBack decode_message(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run,
+                          DecodeRecord decode)
 {
-    return decode_scalars<uint64_t>(in, tag, members, count, run,
-                                    [](uint64_t value) { return value; });
-}
-
-// A bool is what 32 bits of its varint say: a multiple of 2^32 is false.
-uint32_t decode_bools(Decoder &in, uint32_t tag, uint8_t *members, uint32_t count, DecodedRun run)
-{
-    return decode_scalars<uint32_t>(in, tag, members, count, run, [](uint32_t value) {
-        return static_cast<uint8_t>(value != 0);
-    });
-}
-
-uint32_t decode_string(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run)
-{
-    if (!is_field(tag, run))
-        return tag;
-    int32_t error = check_pointer_member(tag, kLengthDelimited, member, in.memory().alloc_fn);
-    if (!error)
-        error = read_text(in, member);
-    return finish_field(in, run, error);
-}
-
-uint32_t decode_bytes(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run)
-{
-    if (!is_field(tag, run))
-        return tag;
-    int32_t error = check_pointer_member(tag, kLengthDelimited, member,
-                                         in.bytes_in_place() || in.memory().alloc_fn);
-    if (!error)
-        error = read_bytes(in, member);
-    return finish_field(in, run, error);
-}
-
-// No test for an earlier one: the record starts again from its defaults. What the first had
-// attached is the arena's.
-uint32_t decode_message(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run,
-                        DecodeRecord decode)
-{
-    if (!is_field(tag, run))
-        return tag;
-    int32_t error = check_wire_type(tag, kLengthDelimited);
-    if (!error)
-        error = read_message(in, member, decode);
-    return finish_field(in, run, error);
+    if (!is_field(cursor.tag, run))
+        return cursor;
+    if (wire_type_of(cursor.tag) != kLengthDelimited)
+        return in.stop(WIRE_ERR_TYPE_MISMATCH);
+    return finish_field(in, read_message(in, cursor.at, record + run.offset, decode), record, run);
 }
 
 } // namespace tarn

@@ -11,31 +11,37 @@
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// Decodes a whole record of some type: any type's T_decode_ext.
-using DecodeRecord = int32_t (*)(void *record, const uint8_t *buf, uint32_t len,
-                                 wire_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags);
+// Decodes what the decoder has before it into a record of some type that has its defaults.
+using DecodeRecord = TARN_CALL void (*)(Decoder &in, void *record);
 
-// Members with the field numbers from `number` on. `flags` are the record's presence flags, of
-// which the first member has `first_bit`.
+// Where the members of a run are, and what belongs to them. It fits in a register.
 struct DecodedRun {
-    uint8_t *flags;
-    uint32_t first_bit;
-    uint32_t number;
+    uint8_t number; // field number of the first
+    uint8_t count;
+    uint8_t first_bit; // presence flag of the first
+    uint16_t offset;   // of the first
+    uint16_t flags;    // offset of the record's presence flags
 };
 
-uint32_t decode_uint32s(Decoder &in, uint32_t tag, uint32_t *members, uint32_t count,
-                        DecodedRun run);
-uint32_t decode_uint64s(Decoder &in, uint32_t tag, uint64_t *members, uint32_t count,
-                        DecodedRun run);
-uint32_t decode_bools(Decoder &in, uint32_t tag, uint8_t *members, uint32_t count, DecodedRun run);
+TARN_CALL HandedBack decode_uint32s(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run);
+TARN_CALL HandedBack decode_uint64s(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run);
+TARN_CALL HandedBack decode_bools(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run);
 
-uint32_t decode_string(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run);
-uint32_t decode_bytes(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run);
-uint32_t decode_message(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run,
-                        DecodeRecord decode);
-uint32_t decode_uint32_list(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run);
-uint32_t decode_string_list(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run);
-uint32_t decode_message_list(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run,
-                             uint32_t element_size, DecodeRecord decode);
+// Runs of one.
+TARN_CALL HandedBack decode_uint32(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run);
+TARN_CALL HandedBack decode_uint64(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run);
+TARN_CALL HandedBack decode_bool(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run);
+
+TARN_CALL HandedBack decode_string(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run);
+TARN_CALL HandedBack decode_bytes(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run);
+TARN_CALL HandedBack decode_message(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run,
+                                    DecodeRecord decode);
+TARN_CALL HandedBack decode_uint32_list(Cursor cursor, Decoder &in, uint8_t *record,
+                                        DecodedRun run);
+TARN_CALL HandedBack decode_string_list(Cursor cursor, Decoder &in, uint8_t *record,
+                                        DecodedRun run);
+TARN_CALL HandedBack decode_message_list(Cursor cursor, Decoder &in, uint8_t *record,
+                                         DecodedRun run, uint32_t element_size,
+                                         DecodeRecord decode);
 
 } // namespace tarn

@@ -9,96 +9,97 @@ namespace tarn {
 
 namespace {
 
-int32_t step_over_element(Decoder &in, WireType wire_type)
+template <WireType wire_type>
+const uint8_t *step_over_element(Decoder &in, const uint8_t *at)
 {
     uint32_t value;
-    if (wire_type == kVarint)
-        return in.read(&value);
-    if (int32_t error = in.read_length(&value))
-        return error;
-    in.take(value);
-    return WIRE_OK;
+    if constexpr (wire_type == kVarint)
+        return in.read(at, &value);
+    at = in.read_length(at, &value);
+    return at ? at + value : nullptr;
 }
 
-// Counts the elements of a run and leaves the position where it was. Only the field number tells
-// what belongs to the run: a tag of another wire type is stepped over as if it were right.
-int32_t count_elements(Decoder &in, const DecodedRun &run, WireType wire_type, uint32_t *count)
+// Counts the elements of a run; null after an error. Only the field number tells what belongs to
+// the run: a tag of another wire type is stepped over as if it were right.
+template <WireType wire_type>
+bool count_elements(Decoder &in, const uint8_t *at, const DecodedRun &run, uint32_t *count)
 {
-    const uint32_t first = in.position();
-    uint32_t tag;
+    Cursor cursor(at, 0);
     *count = 0;
     do {
-        if (int32_t error = step_over_element(in, wire_type))
-            return error;
+        if (!(at = step_over_element<wire_type>(in, cursor.at)))
+            return false;
         ++*count;
-        if (in.at_end())
-            break;
-        if (int32_t error = in.read(&tag))
-            return error;
-    } while (is_field(tag, run));
-    in.go_back(first);
-    return WIRE_OK;
+        cursor = in.next_tag(at);
+    } while (is_field(cursor.tag, run));
+    return cursor.at != nullptr;
 }
 
-// Decodes one run of a list whose elements are `element_size` bytes; read_element(at) reads one.
+// Decodes one run of a list whose elements are `element_size` bytes; read_element(at, element)
+// reads one.
 // The array hangs on the record with its full count before the first element is read, and arrays of
 // pointers and of records are cleared: wherever reading stops, the record can be released.
-template <typename ReadElement>
-int32_t read_list(Decoder &in, uint8_t *member, const DecodedRun &run, WireType wire_type,
-                  uint32_t element_size, ReadElement read_element)
+template <WireType wire_type, typename ReadElement>
+const uint8_t *read_list(Decoder &in, const uint8_t *at, uint8_t *member, const DecodedRun &run,
+                         uint32_t element_size, ReadElement read_element)
 {
     uint32_t count;
-    if (int32_t error = count_elements(in, run, wire_type, &count))
-        return error;
+    if (!count_elements<wire_type>(in, at, run, &count))
+        return nullptr;
     const uint64_t size = uint64_t{count} * element_size;
     uint8_t *element = static_cast<uint8_t *>(in.memory().allocate(size));
     if (!element)
-        return WIRE_ERR_NO_MEMORY;
-    if (wire_type == kLengthDelimited)
+        return in.fail(WIRE_ERR_NO_MEMORY);
+    if constexpr (wire_type == kLengthDelimited)
         memset(element, 0, static_cast<size_t>(size));
     store_block(member, element, count);
-    for (uint32_t i = 0; i < count; i++, element += element_size) {
-        uint32_t tag;
-        if (i > 0)
-            in.read(&tag); // seen when counting: it can be read, and is this field's
-        if (int32_t error = read_element(element))
-            return error;
+    for (;;) {
+        if (!(at = read_element(at, element)))
+            return nullptr;
+        if (--count == 0)
+            return at;
+        at = in.next_tag(at).at; // seen when counting: it can be read, and is this field's
+        element += element_size;
     }
-    return WIRE_OK;
 }
 
-template <typename ReadElement>
-uint32_t decode_list(Decoder &in, uint32_t tag, uint8_t *member, const DecodedRun &run,
-                     WireType wire_type, uint32_t element_size, ReadElement read_element)
+template <WireType wire_type, typename ReadElement>
+HandedBack decode_list(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run,
+                       uint32_t element_size, ReadElement read_element)
 {
-    if (!is_field(tag, run))
-        return tag;
-    int32_t error = check_pointer_member(tag, wire_type, member, in.memory().alloc_fn);
-    if (!error)
-        error = read_list(in, member, run, wire_type, element_size, read_element);
-    return finish_field(in, run, error);
+    if (!is_field(cursor.tag, run))
+        return cursor;
+    uint8_t *member = record + run.offset;
+    if (int32_t error = check_pointer_member(cursor.tag, wire_type, member, in.memory().alloc_fn))
+        return in.stop(error);
+    const uint8_t *at =
+        read_list<wire_type>(in, cursor.at, member, run, element_size, read_element);
+    return finish_field(in, at, record, run);
 }
 
 } // namespace
 
-uint32_t decode_uint32_list(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run)
+HandedBack decode_uint32_list(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
 {
-    return decode_list(in, tag, member, run, kVarint, sizeof(uint32_t), [&](uint8_t *element) {
-        return in.read(reinterpret_cast<uint32_t *>(element));
-    });
+    return decode_list<kVarint>(cursor, in, record, run, sizeof(uint32_t),
+                                [&](const uint8_t *at, uint8_t *element) {
+                                    return in.read(at, reinterpret_cast<uint32_t *>(element));
+                                });
 }
 
-uint32_t decode_string_list(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run)
+HandedBack decode_string_list(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
 {
-    return decode_list(in, tag, member, run, kLengthDelimited, sizeof(char *),
-                       [&](uint8_t *element) { return read_text(in, element); });
+    return decode_list<kLengthDelimited>(
+        cursor, in, record, run, sizeof(char *),
+        [&](const uint8_t *at, uint8_t *element) { return read_text(in, at, element); });
 }
 
-uint32_t decode_message_list(Decoder &in, uint32_t tag, uint8_t *member, DecodedRun run,
-                             uint32_t element_size, DecodeRecord decode)
+HandedBack decode_message_list(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run,
+                               uint32_t element_size, DecodeRecord decode)
 {
-    return decode_list(in, tag, member, run, kLengthDelimited, element_size,
-                       [&](uint8_t *element) { return read_message(in, element, decode); });
+    return decode_list<kLengthDelimited>(
+        cursor, in, record, run, element_size,
+        [&](const uint8_t *at, uint8_t *element) { return read_message(in, at, element, decode); });
 }
 
 } // namespace tarn

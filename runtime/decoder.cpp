@@ -19,54 +19,48 @@ bool LoopWatch::comes_back(uint32_t position, uint64_t present)
     return false;
 }
 
-uint32_t Decoder::next_tag()
+HandedBack Decoder::first_tag()
 {
-    if (at_end())
-        return stop(WIRE_OK);
-    tag_start_ = position_;
+    return next_tag(begin_);
+}
+
+HandedBack Decoder::read_long_tag(const uint8_t *at)
+{
     uint32_t tag;
-    if (int32_t error = read(&tag))
-        return stop(error);
-    return tag == kStop ? stop(WIRE_ERR_WIRE_TYPE) : tag;
+    if (!(at = read_slowly(at, &tag)))
+        return Cursor{at, kStop};
+    return Cursor{at, tag == kStop ? kNobodys : tag};
 }
 
-uint32_t Decoder::stop(int32_t result)
+// Positions are 32 bits wide and wrap around when a skipped field is long enough.
+HandedBack Decoder::skip(Cursor cursor, LoopWatch &watch, const uint8_t *flags, uint32_t members)
 {
-    result_ = result;
-    return kStop;
-}
-
-uint32_t Decoder::skip(uint32_t tag, const uint8_t *flags, uint32_t members)
-{
-    if (int32_t error = wire_skip_field(wire_type_of(tag), &position_, buffer_, length_))
+    const uint32_t length = static_cast<uint32_t>(end_ - begin_);
+    const uint32_t behind_tag = static_cast<uint32_t>(cursor.at - begin_);
+    uint32_t position = behind_tag;
+    if (int32_t error = wire_skip_field(wire_type_of(cursor.tag), &position, begin_, length))
         return stop(error);
-    if (position_ <= tag_start_ && watch_.comes_back(position_, all_flags(flags, members)))
+    if (position < behind_tag && watch.comes_back(position, all_flags(flags, members)))
         return stop(WIRE_ERR_MALFORMED);
-    return next_tag();
+    return next_tag(position < length ? begin_ + position : end_);
 }
 
-int32_t Decoder::read(uint32_t *value)
+const uint8_t *Decoder::read_slowly(const uint8_t *at, uint32_t *value)
 {
-    return wire_read_varint32(value, &position_, buffer_, length_);
+    uint32_t size = 0;
+    const uint32_t length = static_cast<uint32_t>(end_ - at);
+    if (int32_t error = wire_read_varint32(value, &size, at, length))
+        return fail(error);
+    return at + size;
 }
 
-int32_t Decoder::read(uint64_t *value)
+const uint8_t *Decoder::read_slowly(const uint8_t *at, uint64_t *value)
 {
-    return wire_read_varint64(value, &position_, buffer_, length_);
-}
-
-int32_t Decoder::read_length(uint32_t *length)
-{
-    if (int32_t error = read(length))
-        return error;
-    return *length > length_ - position_ ? WIRE_ERR_MALFORMED : WIRE_OK;
-}
-
-const uint8_t *Decoder::take(uint32_t length)
-{
-    const uint8_t *bytes = buffer_ + position_;
-    position_ += length;
-    return bytes;
+    uint32_t size = 0;
+    const uint32_t length = static_cast<uint32_t>(end_ - at);
+    if (int32_t error = wire_read_varint64(value, &size, at, length))
+        return fail(error);
+    return at + size;
 }
 
 } // namespace tarn

@@ -6,14 +6,16 @@
 #pragma once
 
 #include "runtime/memory.hpp"
+#include "wire/call.hpp"
 
 #include <stdint.h>
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
-// Copies a whole record of some type: any type's T_duplicate.
-using DuplicateRecord = int32_t (*)(void *dst, const void *src, wire_alloc_fn alloc_fn,
-                                    void *alloc_ctx);
+class Copier;
+
+// Gives a record of some type blocks of its own: its bytes have been copied already.
+using CopyBlocks = TARN_CALL void (*)(Copier &copier, void *dst, const void *src);
 
 class Copier {
 public:
@@ -22,7 +24,11 @@ public:
     // A block of `size` bytes. Null is remembered: it is the result, whatever came before it.
     void *allocate(uint64_t size);
     // Copies a nested record. Its error is the result if there was none before.
-    void copy_record(void *dst, const void *src, DuplicateRecord duplicate);
+    void copy_record(void *dst, const void *src, CopyBlocks copy_blocks);
+    // The error of a nested record.
+    void fail(int32_t error) { result_ = error; }
+
+    const Memory &memory() const { return memory_; }
 
     int32_t result() const { return result_; }
 
@@ -39,9 +45,11 @@ struct MemberFlag {
 
 void duplicate_string(Copier &copier, uint8_t *dst, const uint8_t *src, MemberFlag flag);
 void duplicate_bytes(Copier &copier, uint8_t *dst, const uint8_t *src, MemberFlag flag);
-void duplicate_uint32_list(Copier &copier, uint8_t *dst, const uint8_t *src, MemberFlag flag);
+// Of elements that hold no pointers: numbers, or whole records.
+void duplicate_flat_list(Copier &copier, uint8_t *dst, const uint8_t *src, MemberFlag flag,
+                         uint32_t element_size);
 void duplicate_string_list(Copier &copier, uint8_t *dst, const uint8_t *src, MemberFlag flag);
 void duplicate_message_list(Copier &copier, uint8_t *dst, const uint8_t *src, MemberFlag flag,
-                            uint32_t element_size, DuplicateRecord duplicate);
+                            uint32_t element_size, CopyBlocks copy_blocks);
 
 } // namespace tarn

@@ -1,80 +1,93 @@
 // SPDX-License-Identifier: MIT
 #include "runtime/encoder.hpp"
 
+#include "wire/fast.hpp"
 #include "wire/varint.hpp"
 
 #include <string.h>
 
 namespace tarn {
 
-Encoder::Encoder(uint8_t *buffer, uint32_t capacity, WireSegment *segments,
-                 const uint32_t *segment_count, uint32_t flags)
-    : buffer_(buffer), capacity_(capacity), segments_(segments),
-      segment_capacity_(segments && segment_count ? *segment_count : 0), flags_(flags),
-      wants_segments_(segment_count != nullptr)
-{}
-
-Encoder Encoder::nested() const
+Encoder Encoder::nested(uint32_t offset) const
 {
-    const bool full = offset_ >= capacity_;
+    const bool full = offset >= capacity_;
     const uint32_t free_segments_left = free_segment_count();
-    return Encoder(full ? nullptr : buffer_ + offset_, full ? 0 : capacity_ - offset_,
+    return Encoder(full ? nullptr : roomy_.buffer + offset, full ? 0 : capacity_ - offset,
                    free_segments(), wants_segments_ ? &free_segments_left : nullptr, flags_);
 }
 
-void Encoder::step_over(uint32_t length, uint32_t segments)
+uint32_t Encoder::put_tag(uint32_t offset, uint32_t tag)
 {
-    offset_ += length;
-    segment_count_ += segments;
+    return wire_put_tag(tag, offset, roomy_.buffer, capacity_);
 }
 
-void Encoder::put_tag(uint32_t tag)
+uint32_t Encoder::put_varint32(uint32_t offset, uint32_t value)
 {
-    offset_ = wire_put_tag(tag, offset_, buffer_, capacity_);
+    return wire_put_varint32(value, offset, roomy_.buffer, capacity_);
 }
 
-void Encoder::put_varint32(uint32_t value)
+uint32_t Encoder::put_varint64(uint32_t offset, uint64_t value)
 {
-    offset_ = wire_put_varint32(value, offset_, buffer_, capacity_);
+    return wire_put_varint64(value, offset, roomy_.buffer, capacity_);
 }
 
-void Encoder::put_varint64(uint64_t value)
+uint32_t Encoder::put_text(uint32_t offset, const char *text, uint32_t length)
 {
-    offset_ = wire_put_varint64(value, offset_, buffer_, capacity_);
+    offset = put_varint32(offset, length);
+    if (is_trying() && !is_sure_to_fit(offset, length))
+        return give_up();
+    const uint32_t end = offset + length;
+    if (end <= capacity_ && end > offset)
+        memcpy(roomy_.buffer + offset, text, length);
+    return end;
 }
 
-void Encoder::put_text(const char *text, uint32_t length)
+uint32_t Encoder::put_bytes(uint32_t offset, const uint8_t *data, uint32_t length)
 {
-    put_varint32(length);
-    const uint32_t end = offset_ + length;
-    if (end <= capacity_ && end > offset_)
-        memcpy(buffer_ + offset_, text, length);
-    offset_ = end;
-}
-
-void Encoder::put_bytes(const uint8_t *data, uint32_t length)
-{
-    put_varint32(length);
+    offset = put_varint32(offset, length);
     if (flags_ & WIRE_FLAG_BYTES_IN_PLACE) {
+        if (is_trying() && offset > capacity_)
+            return give_up();
         if (!wants_segments_ || length == 0)
-            return;
-        add_buffer_segment();
+            return offset;
+        add_segment(address_of(segment_start_), offset - segment_start_);
+        segment_start_ = offset;
         add_segment(data, length);
-        return;
+        return offset;
     }
+    if (is_trying() && !is_sure_to_fit(offset, length))
+        return give_up();
     // Unlike a text, a length that would wrap around counts for nothing.
-    const uint32_t end = offset_ + length;
-    if (end <= offset_)
-        return;
+    const uint32_t end = offset + length;
+    if (end <= offset)
+        return offset;
     if (end <= capacity_)
-        memcpy(buffer_ + offset_, data, length);
-    offset_ = end;
+        memcpy(roomy_.buffer + offset, data, length);
+    return end;
 }
 
-void Encoder::finish()
+bool Encoder::move(uint32_t offset, uint32_t length, uint32_t distance, uint32_t first_segment)
 {
-    if (wants_segments_ && segment_start_ < offset_)
-        add_buffer_segment();
+    if (distance > room(offset + length))
+        return false;
+    // From the end, in words as long as there are some: the two places overlap.
+    uint8_t *from = roomy_.buffer + offset;
+    uint32_t left = length;
+    for (; left >= kWordSize; left -= kWordSize) {
+        const Word word = load_word(from + left - kWordSize);
+        memcpy(from + left - kWordSize + distance, &word, sizeof word);
+    }
+    while (left--)
+        from[left + distance] = from[left];
+    for (uint32_t i = first_segment; i < segment_count_ && i < segment_capacity_; i++)
+        segments_[i].data += distance;
+    return true;
+}
+
+void Encoder::finish(uint32_t offset)
+{
+    if (wants_segments_ && segment_start_ < offset)
+        add_segment(address_of(segment_start_), offset - segment_start_);
 }
 
 WireSegment *Encoder::free_segments() const
@@ -94,16 +107,10 @@ void Encoder::add_segment(const uint8_t *data, uint32_t length)
     segment_count_++;
 }
 
-void Encoder::add_buffer_segment()
-{
-    add_segment(buffer_at(segment_start_), offset_ - segment_start_);
-    segment_start_ = offset_;
-}
-
 // Callers count pieces of a buffer that they have yet to allocate: it may be null here.
-const uint8_t *Encoder::buffer_at(uint32_t offset) const
+const uint8_t *Encoder::address_of(uint32_t offset) const
 {
-    const uintptr_t address = reinterpret_cast<uintptr_t>(buffer_) + offset;
+    const uintptr_t address = reinterpret_cast<uintptr_t>(roomy_.buffer) + offset;
     return reinterpret_cast<const uint8_t *>(address); // NOLINT(performance-no-int-to-ptr)
 }
 

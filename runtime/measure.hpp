@@ -4,28 +4,35 @@
 
 #pragma once
 
+#include "wire/call.hpp"
+
 #include <stdint.h>
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
 // Measures a whole record of some type.
-using MeasureRecord = uint32_t (*)(const void *record, uint32_t flags);
+using MeasureRecord = TARN_CALL uint32_t (*)(const void *record, uint32_t flags);
 
 // `tag` is that of the run's first member, `present` holds the presence flags of its members.
-uint32_t measure_uint32s(uint32_t offset, const uint32_t *members, uint32_t present, uint32_t tag);
-uint32_t measure_uint64s(uint32_t offset, const uint64_t *members, uint32_t present, uint32_t tag);
-uint32_t measure_bools(uint32_t offset, const uint8_t *members, uint32_t present, uint32_t tag);
+TARN_CALL uint32_t measure_uint32s(uint32_t offset, const uint32_t *members, uint32_t present,
+                                   uint32_t tag);
+TARN_CALL uint32_t measure_uint64s(uint32_t offset, const uint64_t *members, uint32_t present,
+                                   uint32_t tag);
+TARN_CALL uint32_t measure_bools(uint32_t offset, const uint8_t *members, uint32_t present,
+                                 uint32_t tag);
 
-uint32_t measure_string(uint32_t offset, const uint8_t *member, uint32_t present, uint32_t tag);
-uint32_t measure_bytes(uint32_t offset, const uint8_t *member, uint32_t present, uint32_t tag,
-                       uint32_t flags);
-uint32_t measure_message(uint32_t offset, uint32_t length, uint32_t present, uint32_t tag);
-uint32_t measure_uint32_list(uint32_t offset, const uint8_t *member, uint32_t present,
-                             uint32_t tag);
-uint32_t measure_string_list(uint32_t offset, const uint8_t *member, uint32_t present,
-                             uint32_t tag);
-uint32_t measure_message_list(uint32_t offset, const uint8_t *member, uint32_t present,
-                              uint32_t tag, uint32_t element_size, MeasureRecord measure,
-                              uint32_t flags);
+// Members that are present, with tags that take `tag_size` bytes.
+TARN_CALL uint32_t measure_string(uint32_t offset, const uint8_t *member, uint32_t tag_size);
+TARN_CALL uint32_t measure_bytes(uint32_t offset, const uint8_t *member, uint32_t flags,
+                                 uint32_t tag_size);
+TARN_CALL uint32_t measure_uint32_list(uint32_t offset, const uint8_t *member, uint32_t tag_size);
+TARN_CALL uint32_t measure_string_list(uint32_t offset, const uint8_t *member, uint32_t tag_size);
+TARN_CALL uint32_t measure_message_list(uint32_t offset, const uint8_t *member, uint32_t flags,
+                                        uint32_t tag_size, uint32_t element_size,
+                                        MeasureRecord measure);
+
+// An embedded record of this length, present or not.
+TARN_CALL uint32_t measure_message(uint32_t offset, uint32_t length, uint32_t present,
+                                   uint32_t tag_size);
 
 } // namespace tarn

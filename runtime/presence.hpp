@@ -4,14 +4,31 @@
 
 #pragma once
 
+#include "wire/call.hpp"
+
 #include <stdint.h>
 #include <string.h>
 
 namespace [[gnu::visibility("hidden")]] tarn {
 
+TARN_INLINE inline bool has_flag(const uint8_t *flags, uint32_t bit)
+{
+    return flags[bit / 8] >> bit % 8 & 1;
+}
+
 inline void set_flag(uint8_t *flags, uint32_t bit)
 {
     flags[bit / 8] = static_cast<uint8_t>(flags[bit / 8] | 1u << bit % 8);
+}
+
+// Bit k of `present` is for the member behind the first by k.
+inline void set_flags(uint8_t *flags, uint32_t first, uint32_t present)
+{
+    uint8_t *at = flags + first / 8;
+    uint64_t bits = uint64_t{present} << first % 8;
+    do
+        *at = static_cast<uint8_t>(*at | bits), at++;
+    while (bits >>= 8);
 }
 
 inline void clear_flag(uint8_t *flags, uint32_t bit)
@@ -21,7 +38,7 @@ inline void clear_flag(uint8_t *flags, uint32_t bit)
 
 // The flags of up to 32 members from `first` on, that of the first in bit 0.
 template <uint32_t first, uint32_t count>
-uint32_t present_members(const uint8_t *flags)
+TARN_INLINE inline uint32_t present_members(const uint8_t *flags)
 {
     static_assert(count >= 1 && count <= 32);
     constexpr uint32_t kShift = first % 8;
@@ -33,6 +50,18 @@ uint32_t present_members(const uint8_t *flags)
 }
 
 // All flags of a record that has up to 64 members.
+template <uint32_t members>
+TARN_INLINE inline uint64_t all_flags(const uint8_t *flags)
+{
+    if constexpr (members == 0) {
+        return 0;
+    } else {
+        uint64_t bits = 0;
+        memcpy(&bits, flags, (members + 7) / 8);
+        return bits & ~uint64_t{0} >> (64 - members);
+    }
+}
+
 inline uint64_t all_flags(const uint8_t *flags, uint32_t members)
 {
     uint64_t bits = 0;

@@ -49,6 +49,14 @@ void release_string_list(const Releaser &releaser, uint8_t *member)
     store_count(member, 0);
 }
 
+void release_flat_list(const Releaser &releaser, uint8_t *member)
+{
+    if (!load_pointer(member))
+        return;
+    release_pointer(releaser, member);
+    store_count(member, 0);
+}
+
 void release_message_list(const Releaser &releaser, uint8_t *member, uint32_t element_size,
                           ReleaseRecord release)
 {
@@ -57,7 +65,7 @@ void release_message_list(const Releaser &releaser, uint8_t *member, uint32_t el
         return;
     const uint32_t count = load_count(member);
     for (uint32_t i = 0; i < count; i++, element += element_size)
-        release(element, releaser.free_fn, releaser.free_ctx, releaser.flags);
+        release(releaser, element);
     release_pointer(releaser, member);
     store_count(member, 0);
 }

@@ -12,6 +12,8 @@
 #include "runtime/schema.hpp"
 #include "runtime/write.hpp"
 
+#include <utility>
+
 namespace [[gnu::visibility("hidden")]] tarn {
 
 constexpr uint32_t tag_of(const Run &run)
@@ -20,88 +22,191 @@ constexpr uint32_t tag_of(const Run &run)
     return make_tag(run.number, varint ? kVarint : kLengthDelimited);
 }
 
-// In all of them Child is the codec of the record type behind a nested run, else void.
+// Members of shorter runs are treated one by one, in line: what to expect of each is easier to
+// predict so. In longer runs that would be too much code; on a small machine sooner, and sooner yet
+// when the members are wider than a word. For a library as small as possible all runs are long.
+#ifdef TARN_SMALL
+constexpr bool kIsSmall = true;
+#else
+constexpr bool kIsSmall = false;
+#endif
+constexpr bool kIsSmallMachine = sizeof(void *) < sizeof(uint64_t);
+constexpr uint32_t kLongRun = kIsSmall ? 1 : kIsSmallMachine ? 4 : 5;
+constexpr uint32_t kLongRunOfPairs = kIsSmall ? 1 : 2;
+
+constexpr bool is_long(const Run &run, uint32_t long_run = kLongRun)
+{
+    const bool pairs = kIsSmallMachine && run.kind == Kind::uint64;
+    return is_scalar(run.kind) && run.count >= (pairs ? kLongRunOfPairs : long_run);
+}
+
+// In all that follows Child is the codec of the record type behind a nested run, else void.
+
+template <Kind kind, uint32_t tag_size>
+TARN_INLINE inline uint32_t measure_member(const uint8_t *members, uint32_t place)
+{
+    if constexpr (kind == Kind::uint64)
+        return wire_varint64_size(reinterpret_cast<const uint64_t *>(members)[place], tag_size);
+    else if constexpr (kind == Kind::uint32)
+        return wire_varint32_size(reinterpret_cast<const uint32_t *>(members)[place], tag_size);
+    else
+        return tag_size + 1 + (members[place] >> 7);
+}
+
+template <Run run, uint32_t... place>
+TARN_INLINE inline uint32_t measure_each(uint32_t offset, const uint8_t *members,
+                                         const uint8_t *presence,
+                                         std::integer_sequence<uint32_t, place...>)
+{
+    ((offset += has_flag(presence, run.first_bit + place)
+                    ? measure_member<run.kind, wire_varint32_size(tag_of(run) + place * kTagStep)>(
+                          members, place)
+                    : 0),
+     ...);
+    return offset;
+}
 
 template <Run run, typename Child>
-uint32_t measure_run(uint32_t offset, const uint8_t *record, const uint8_t *presence,
-                     uint32_t flags)
+TARN_INLINE inline uint32_t measure_run(uint32_t offset, const uint8_t *record,
+                                        const uint8_t *presence, uint32_t flags)
+{
+    constexpr uint32_t tag = tag_of(run);
+    constexpr uint32_t tag_size = wire_varint32_size(tag);
+    const uint8_t *at = record + run.offset;
+    const uint32_t present = present_members<run.first_bit, run.count>(presence);
+    if constexpr (is_long(run, kIsSmall ? 1 : 5)) {
+        if constexpr (run.kind == Kind::uint32)
+            return measure_uint32s(offset, reinterpret_cast<const uint32_t *>(at), present, tag);
+        else if constexpr (run.kind == Kind::uint64)
+            return measure_uint64s(offset, reinterpret_cast<const uint64_t *>(at), present, tag);
+        else
+            return measure_bools(offset, at, present, tag);
+    } else if constexpr (is_scalar(run.kind)) {
+        return measure_each<run>(offset, at, presence,
+                                 std::make_integer_sequence<uint32_t, run.count>());
+    } else if constexpr (run.kind == Kind::message) {
+        if (!present && Child::is_surely_empty(at))
+            return offset;
+        return measure_message(offset, Child::measure(at, flags), present, tag_size);
+    } else {
+        if (!present)
+            return offset;
+        if constexpr (run.kind == Kind::string)
+            return measure_string(offset, at, tag_size);
+        else if constexpr (run.kind == Kind::bytes)
+            return measure_bytes(offset, at, flags, tag_size);
+        else if constexpr (run.kind == Kind::repeated_uint32)
+            return measure_uint32_list(offset, at, tag_size);
+        else if constexpr (run.kind == Kind::repeated_string)
+            return measure_string_list(offset, at, tag_size);
+        else
+            return measure_message_list(offset, at, flags, tag_size, Child::size, Child::measure);
+    }
+}
+
+template <Kind kind, uint32_t tag>
+TARN_INLINE inline uint32_t write_member(uint32_t offset, Encoder &out, const Encoder::Roomy &roomy,
+                                         const uint8_t *members, uint32_t place)
+{
+    if constexpr (kind == Kind::uint64)
+        return write_uint64<tag>(offset, out, roomy,
+                                 reinterpret_cast<const uint64_t *>(members) + place);
+    else if constexpr (kind == Kind::uint32)
+        return write_uint32<tag>(offset, out, roomy,
+                                 reinterpret_cast<const uint32_t *>(members)[place]);
+    else
+        return write_uint32<tag>(offset, out, roomy, members[place]);
+}
+
+template <Run run, uint32_t... place>
+TARN_INLINE inline uint32_t write_each(uint32_t offset, Encoder &out, const Encoder::Roomy &roomy,
+                                       const uint8_t *members, const uint8_t *presence,
+                                       std::integer_sequence<uint32_t, place...>)
+{
+    ((offset = has_flag(presence, run.first_bit + place)
+                   ? write_member<run.kind, tag_of(run) + place * kTagStep>(offset, out, roomy,
+                                                                            members, place)
+                   : offset),
+     ...);
+    return offset;
+}
+
+template <Run run, typename Child>
+TARN_INLINE inline uint32_t write_run(uint32_t offset, Encoder &out, const Encoder::Roomy &roomy,
+                                      const uint8_t *record, const uint8_t *presence)
 {
     constexpr uint32_t tag = tag_of(run);
     const uint8_t *at = record + run.offset;
     const uint32_t present = present_members<run.first_bit, run.count>(presence);
-    if constexpr (run.kind == Kind::uint32)
-        return measure_uint32s(offset, reinterpret_cast<const uint32_t *>(at), present, tag);
-    else if constexpr (run.kind == Kind::uint64)
-        return measure_uint64s(offset, reinterpret_cast<const uint64_t *>(at), present, tag);
-    else if constexpr (run.kind == Kind::boolean)
-        return measure_bools(offset, at, present, tag);
-    else if constexpr (run.kind == Kind::string)
-        return measure_string(offset, at, present, tag);
-    else if constexpr (run.kind == Kind::bytes)
-        return measure_bytes(offset, at, present, tag, flags);
-    else if constexpr (run.kind == Kind::message)
-        return measure_message(offset, Child::measure(at, flags), present, tag);
-    else if constexpr (run.kind == Kind::repeated_uint32)
-        return measure_uint32_list(offset, at, present, tag);
-    else if constexpr (run.kind == Kind::repeated_string)
-        return measure_string_list(offset, at, present, tag);
-    else
-        return measure_message_list(offset, at, present, tag, Child::size, Child::measure, flags);
+    if constexpr (is_long(run)) {
+        if constexpr (run.kind == Kind::uint32)
+            return write_uint32s(offset, out, reinterpret_cast<const uint32_t *>(at), present, tag);
+        else if constexpr (run.kind == Kind::uint64)
+            return write_uint64s(offset, out, reinterpret_cast<const uint64_t *>(at), present, tag);
+        else
+            return write_bools(offset, out, at, present, tag);
+    } else if constexpr (is_scalar(run.kind)) {
+        return write_each<run>(offset, out, roomy, at, presence,
+                               std::make_integer_sequence<uint32_t, run.count>());
+    } else if constexpr (run.kind == Kind::message) {
+        constexpr uint16_t tag16 = static_cast<uint16_t>(tag);
+        if (!present && Child::is_surely_empty(at))
+            return offset;
+        return write_message(offset, out, at, {tag16, 0, Child::is_plain, present != 0},
+                             Child::measure, Child::write);
+    } else {
+        if (!present)
+            return offset;
+        if constexpr (run.kind == Kind::string)
+            return write_string(offset, out, at, tag);
+        else if constexpr (run.kind == Kind::bytes)
+            return write_bytes(offset, out, at, tag);
+        else if constexpr (run.kind == Kind::repeated_uint32)
+            return write_uint32_list(offset, out, at, tag);
+        else if constexpr (run.kind == Kind::repeated_string)
+            return write_string_list(offset, out, at, tag);
+        else
+            return write_message_list(
+                offset, out, at, {static_cast<uint16_t>(tag), Child::size, Child::is_plain, true},
+                Child::measure, Child::write);
+    }
 }
 
 template <Run run, typename Child>
-void write_run(Encoder &out, const uint8_t *record, const uint8_t *presence)
+TARN_INLINE inline Cursor decode_run(Cursor cursor, Decoder &in, uint8_t *record, uint16_t flags)
 {
-    constexpr uint32_t tag = tag_of(run);
-    const uint8_t *at = record + run.offset;
-    const uint32_t present = present_members<run.first_bit, run.count>(presence);
-    if constexpr (run.kind == Kind::uint32)
-        write_uint32s(out, reinterpret_cast<const uint32_t *>(at), present, tag);
+    const DecodedRun decoded{run.number, run.count, run.first_bit, run.offset, flags};
+    if constexpr (run.kind == Kind::uint32 && run.count == 1)
+        return decode_uint32(cursor, in, record, decoded);
+    else if constexpr (run.kind == Kind::uint64 && run.count == 1)
+        return decode_uint64(cursor, in, record, decoded);
+    else if constexpr (run.kind == Kind::boolean && run.count == 1)
+        return decode_bool(cursor, in, record, decoded);
+    else if constexpr (run.kind == Kind::uint32)
+        return decode_uint32s(cursor, in, record, decoded);
     else if constexpr (run.kind == Kind::uint64)
-        write_uint64s(out, reinterpret_cast<const uint64_t *>(at), present, tag);
+        return decode_uint64s(cursor, in, record, decoded);
     else if constexpr (run.kind == Kind::boolean)
-        write_bools(out, at, present, tag);
+        return decode_bools(cursor, in, record, decoded);
     else if constexpr (run.kind == Kind::string)
-        write_string(out, at, present, tag);
+        return decode_string(cursor, in, record, decoded);
     else if constexpr (run.kind == Kind::bytes)
-        write_bytes(out, at, present, tag);
-    else if constexpr (run.kind == Kind::message)
-        write_message(out, at, present, tag, {Child::measure, Child::write});
+        return decode_bytes(cursor, in, record, decoded);
+    else if constexpr (run.kind == Kind::message) // one that comes again starts from its defaults
+        return decode_message(cursor, in, record, decoded,
+                              has_flag(record + flags, run.first_bit) ? Child::decode_anew
+                                                                      : Child::decode_fields);
     else if constexpr (run.kind == Kind::repeated_uint32)
-        write_uint32_list(out, at, present, tag);
+        return decode_uint32_list(cursor, in, record, decoded);
     else if constexpr (run.kind == Kind::repeated_string)
-        write_string_list(out, at, present, tag);
+        return decode_string_list(cursor, in, record, decoded);
     else
-        write_message_list(out, at, present, tag, Child::size, {Child::measure, Child::write});
+        return decode_message_list(cursor, in, record, decoded, Child::size, Child::decode_element);
 }
 
 template <Run run, typename Child>
-uint32_t decode_run(Decoder &in, uint32_t tag, uint8_t *record, uint8_t *presence)
-{
-    uint8_t *at = record + run.offset;
-    const DecodedRun decoded{presence, run.first_bit, run.number};
-    if constexpr (run.kind == Kind::uint32)
-        return decode_uint32s(in, tag, reinterpret_cast<uint32_t *>(at), run.count, decoded);
-    else if constexpr (run.kind == Kind::uint64)
-        return decode_uint64s(in, tag, reinterpret_cast<uint64_t *>(at), run.count, decoded);
-    else if constexpr (run.kind == Kind::boolean)
-        return decode_bools(in, tag, at, run.count, decoded);
-    else if constexpr (run.kind == Kind::string)
-        return decode_string(in, tag, at, decoded);
-    else if constexpr (run.kind == Kind::bytes)
-        return decode_bytes(in, tag, at, decoded);
-    else if constexpr (run.kind == Kind::message)
-        return decode_message(in, tag, at, decoded, Child::decode);
-    else if constexpr (run.kind == Kind::repeated_uint32)
-        return decode_uint32_list(in, tag, at, decoded);
-    else if constexpr (run.kind == Kind::repeated_string)
-        return decode_string_list(in, tag, at, decoded);
-    else
-        return decode_message_list(in, tag, at, decoded, Child::size, Child::decode);
-}
-
-template <Run run, typename Child>
-void duplicate_run(Copier &copier, uint8_t *dst, const uint8_t *src, uint8_t *presence)
+TARN_INLINE inline void duplicate_run(Copier &copier, uint8_t *dst, const uint8_t *src,
+                                      uint8_t *presence)
 {
     uint8_t *to = dst + run.offset;
     const uint8_t *from = src + run.offset;
@@ -110,32 +215,38 @@ void duplicate_run(Copier &copier, uint8_t *dst, const uint8_t *src, uint8_t *pr
         duplicate_string(copier, to, from, flag);
     else if constexpr (run.kind == Kind::bytes)
         duplicate_bytes(copier, to, from, flag);
-    else if constexpr (run.kind == Kind::message)
-        copier.copy_record(to, from, Child::duplicate);
     else if constexpr (run.kind == Kind::repeated_uint32)
-        duplicate_uint32_list(copier, to, from, flag);
+        duplicate_flat_list(copier, to, from, flag, sizeof(uint32_t));
     else if constexpr (run.kind == Kind::repeated_string)
         duplicate_string_list(copier, to, from, flag);
+    else if constexpr (run.kind == Kind::message) {
+        if constexpr (Child::owns_memory)
+            copier.copy_record(to, from, Child::copy_blocks);
+    } else if constexpr (Child::owns_memory)
+        duplicate_message_list(copier, to, from, flag, Child::size, Child::copy_blocks);
     else
-        duplicate_message_list(copier, to, from, flag, Child::size, Child::duplicate);
+        duplicate_flat_list(copier, to, from, flag, Child::size);
 }
 
 template <Run run, typename Child>
-void release_run(const Releaser &releaser, uint8_t *record)
+TARN_INLINE inline void release_run(const Releaser &releaser, uint8_t *record)
 {
     uint8_t *at = record + run.offset;
     if constexpr (run.kind == Kind::string)
         release_string(releaser, at);
     else if constexpr (run.kind == Kind::bytes)
         release_bytes(releaser, at);
-    else if constexpr (run.kind == Kind::message)
-        Child::release(at, releaser.free_fn, releaser.free_ctx, releaser.flags);
     else if constexpr (run.kind == Kind::repeated_uint32)
         release_uint32_list(releaser, at);
     else if constexpr (run.kind == Kind::repeated_string)
         release_string_list(releaser, at);
+    else if constexpr (run.kind == Kind::message) {
+        if constexpr (Child::owns_memory)
+            Child::release_blocks(releaser, at);
+    } else if constexpr (Child::owns_memory)
+        release_message_list(releaser, at, Child::size, Child::release_blocks);
     else
-        release_message_list(releaser, at, Child::size, Child::release);
+        release_flat_list(releaser, at);
 }
 
 } // namespace tarn

@@ -27,16 +27,21 @@ constexpr bool is_scalar(Kind kind)
     return kind == Kind::uint32 || kind == Kind::uint64 || kind == Kind::boolean;
 }
 
+constexpr bool is_number(Kind kind)
+{
+    return is_scalar(kind) || kind == Kind::repeated_uint32;
+}
+
 // These have a record type of their own behind them.
 constexpr bool is_nested(Kind kind)
 {
     return kind == Kind::message || kind == Kind::repeated_message;
 }
 
-// These own blocks of memory, or may own some further down.
-constexpr bool owns_memory(Kind kind)
+// These own blocks of memory.
+constexpr bool has_pointer(Kind kind)
 {
-    return !is_scalar(kind);
+    return !is_scalar(kind) && kind != Kind::message;
 }
 
 // Byte strings and lists: a pointer, and right behind it a length or a count.
@@ -130,6 +135,23 @@ template <uint32_t RunCount, uint32_t SpanCount>
 struct Layout {
     static constexpr uint32_t run_count = RunCount;
     static constexpr uint32_t span_count = SpanCount;
+
+    constexpr bool has_pointers() const
+    {
+        for (uint32_t i = 0; i < RunCount; i++)
+            if (has_pointer(runs[i].kind))
+                return true;
+        return false;
+    }
+
+    // But for what is nested.
+    constexpr bool has_only_numbers() const
+    {
+        for (uint32_t i = 0; i < RunCount; i++)
+            if (!is_number(runs[i].kind) && !is_nested(runs[i].kind))
+                return false;
+        return true;
+    }
 
     uint16_t size;
     uint16_t flags; // offset of the first byte of presence flags

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Writes the members of a record, run by run, in the order of their field numbers.
+// Writes the members of a record, run by run, in the order of their field numbers. Every function
+// takes the offset at which its run starts and returns the one behind it.
 
 #pragma once
 
@@ -11,25 +12,80 @@
 namespace [[gnu::visibility("hidden")]] tarn {
 
 // Writes a whole record of some type.
-using WriteRecord = void (*)(Encoder &out, const void *record);
+using WriteRecord = TARN_CALL uint32_t (*)(uint32_t offset, Encoder &out, const void *record);
 
-struct NestedEncoding {
-    MeasureRecord measure;
-    WriteRecord write;
+// The encoding of a whole record that is not only measured.
+uint32_t encode_record(const void *record, uint8_t *buffer, uint32_t capacity,
+                       WireSegment *segments, uint32_t *segment_count, uint32_t flags,
+                       WriteRecord write);
+
+// How a nested record is written. It fits in a register.
+struct NestedRun {
+    uint16_t tag;
+    uint16_t element_size; // of lists
+    bool is_plain;         // nothing but numbers all the way down
+    bool present;          // of embedded records
 };
 
 // `tag` is that of the run's first member, `present` holds the presence flags of its members.
-void write_uint32s(Encoder &out, const uint32_t *members, uint32_t present, uint32_t tag);
-void write_uint64s(Encoder &out, const uint64_t *members, uint32_t present, uint32_t tag);
-void write_bools(Encoder &out, const uint8_t *members, uint32_t present, uint32_t tag);
+TARN_CALL uint32_t write_uint32s(uint32_t offset, Encoder &out, const uint32_t *members,
+                                 uint32_t present, uint32_t tag);
+TARN_CALL uint32_t write_uint64s(uint32_t offset, Encoder &out, const uint64_t *members,
+                                 uint32_t present, uint32_t tag);
+TARN_CALL uint32_t write_bools(uint32_t offset, Encoder &out, const uint8_t *members,
+                               uint32_t present, uint32_t tag);
 
-void write_string(Encoder &out, const uint8_t *member, uint32_t present, uint32_t tag);
-void write_bytes(Encoder &out, const uint8_t *member, uint32_t present, uint32_t tag);
-void write_message(Encoder &out, const uint8_t *member, uint32_t present, uint32_t tag,
-                   NestedEncoding nested);
-void write_uint32_list(Encoder &out, const uint8_t *member, uint32_t present, uint32_t tag);
-void write_string_list(Encoder &out, const uint8_t *member, uint32_t present, uint32_t tag);
-void write_message_list(Encoder &out, const uint8_t *member, uint32_t present, uint32_t tag,
-                        uint32_t element_size, NestedEncoding nested);
+// Members that are present. Those of small value in the midst of the buffer are written on the
+// spot.
+TARN_CALL uint32_t put_uint32(uint32_t offset, Encoder &out, uint32_t value, uint32_t tag);
+TARN_CALL uint32_t put_uint64(uint32_t offset, Encoder &out, const uint64_t *value, uint32_t tag);
+
+template <uint32_t tag>
+TARN_INLINE inline uint32_t write_small(uint32_t offset, const Encoder::Roomy &roomy,
+                                        uint32_t value)
+{
+    uint8_t *to = roomy.buffer + offset;
+    if constexpr (tag < 0x80) {
+        to[0] = tag;
+        to[1] = static_cast<uint8_t>(value);
+        return offset + 2;
+    } else {
+        to[0] = (tag & 0x7F) | 0x80;
+        to[1] = tag >> 7;
+        to[2] = static_cast<uint8_t>(value);
+        return offset + 3;
+    }
+}
+
+template <uint32_t tag>
+TARN_INLINE inline uint32_t write_uint32(uint32_t offset, Encoder &out, const Encoder::Roomy &roomy,
+                                         uint32_t value)
+{
+    if (value < 0x80 && offset < roomy.until)
+        return write_small<tag>(offset, roomy, value);
+    return put_uint32(offset, out, value, tag);
+}
+
+template <uint32_t tag>
+TARN_INLINE inline uint32_t write_uint64(uint32_t offset, Encoder &out, const Encoder::Roomy &roomy,
+                                         const uint64_t *value)
+{
+    if (*value < 0x80 && offset < roomy.until)
+        return write_small<tag>(offset, roomy, static_cast<uint32_t>(*value));
+    return put_uint64(offset, out, value, tag);
+}
+
+TARN_CALL uint32_t write_string(uint32_t offset, Encoder &out, const uint8_t *member, uint32_t tag);
+TARN_CALL uint32_t write_bytes(uint32_t offset, Encoder &out, const uint8_t *member, uint32_t tag);
+TARN_CALL uint32_t write_uint32_list(uint32_t offset, Encoder &out, const uint8_t *member,
+                                     uint32_t tag);
+TARN_CALL uint32_t write_string_list(uint32_t offset, Encoder &out, const uint8_t *member,
+                                     uint32_t tag);
+TARN_CALL uint32_t write_message_list(uint32_t offset, Encoder &out, const uint8_t *member,
+                                      NestedRun run, MeasureRecord measure, WriteRecord write);
+
+// Present or not.
+TARN_CALL uint32_t write_message(uint32_t offset, Encoder &out, const uint8_t *member,
+                                 NestedRun run, MeasureRecord measure, WriteRecord write);
 
 } // namespace tarn

@@ -86,7 +86,9 @@ int32_t tarn_esd_location_info_decode_ext(tarn_esd_location_info *record, const 
                                           uint32_t flags)
 {
     initialise_location(record);
-    return LocationCodec::decode_fields(record, Decoder(buf, len, {alloc_fn, alloc_ctx}, flags));
+    Decoder in(buf, len, {alloc_fn, alloc_ctx}, flags);
+    LocationCodec::decode_fields(in, record);
+    return in.result();
 }
 
 int32_t tarn_esd_location_info_duplicate(tarn_esd_location_info *dst,

@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include "wire/call.hpp"
 #include "wire/result.h"
 
 #include <stdint.h>
@@ -35,18 +36,28 @@ constexpr uint32_t field_number_of(uint32_t tag)
     return tag >> 3;
 }
 
-// How many bytes a value takes: one for every seven bits. The quotient by 64 is
-// that of (bits + 6) / 7 for all lengths up to 64, without a division.
-constexpr uint32_t wire_varint32_size(uint32_t value)
+// How many bytes a value takes, one for every seven bits, behind so many others. The quotient by 64
+// is that of (bits + 6) / 7 for all lengths up to 64, without a division.
+TARN_INLINE constexpr uint32_t wire_varint32_size(uint32_t value, uint32_t behind = 0)
 {
-    const uint32_t bits = 32 - static_cast<uint32_t>(__builtin_clz(value | 1));
-    return (bits * 9 + 64) / 64;
+    const uint32_t highest_bit = 31 ^ static_cast<uint32_t>(__builtin_clz(value | 1));
+    return (highest_bit * 9 + 73 + behind * 64) / 64;
 }
 
-constexpr uint32_t wire_varint64_size(uint64_t value)
+TARN_INLINE constexpr uint32_t wire_varint64_size(uint64_t value, uint32_t behind = 0)
 {
-    const uint32_t bits = 64 - static_cast<uint32_t>(__builtin_clzll(value | 1));
-    return (bits * 9 + 64) / 64;
+    const uint32_t highest_bit = 63 ^ static_cast<uint32_t>(__builtin_clzll(value | 1));
+    return (highest_bit * 9 + 73 + behind * 64) / 64;
+}
+
+// The same by the width of the value; narrower ones count as 32 bits, as on the wire.
+template <typename Value>
+TARN_INLINE constexpr uint32_t wire_varint_size(Value value, uint32_t behind = 0)
+{
+    if constexpr (sizeof(Value) == sizeof(uint64_t))
+        return wire_varint64_size(value, behind);
+    else
+        return wire_varint32_size(value, behind);
 }
 
 // Readers. They move `position` and store `value` (which may be null) only when they succeed. A

@@ -44,6 +44,39 @@ TEST(encoding, returns_the_full_length_whatever_the_capacity)
     });
 }
 
+bool has_nothing_but_numbers(const RecordType &type)
+{
+    return std::all_of(type.members.begin(), type.members.end(), [](const Member &member) {
+        return is_nested(member.kind) ? has_nothing_but_numbers(find_type(member.child))
+                                      : member.kind != Kind::string && member.kind != Kind::bytes &&
+                                            member.kind != Kind::repeated_string;
+    });
+}
+
+// Wherever the capacity ends, numbers go as far as it does, and nothing goes further.
+TEST(encoding, writes_numbers_up_to_the_capacity)
+{
+    for_each_case([](const Case &test_case, const Content &content) {
+        const RecordType &type = *test_case.type;
+        const bool is_cut_anywhere = has_nothing_but_numbers(type);
+        const FilledRecord filled(content);
+        const Bytes whole = encode(type, filled.record());
+        constexpr uint32_t kSpare = 20;
+        for (uint32_t capacity = 0; capacity <= whole.length() + kSpare; capacity++) {
+            const uint32_t written = std::min(capacity, whole.length());
+            Bytes buffer(whole.size() + kSpare, kUntouched);
+            Bytes expected = buffer;
+            EXPECT_EQ(type.encode(filled.record(), buffer.data(), capacity, nullptr, nullptr, 0),
+                      whole.size());
+            if (is_cut_anywhere || capacity >= whole.length())
+                std::copy_n(whole.begin(), written, expected.begin());
+            else
+                std::copy_n(buffer.begin(), written, expected.begin());
+            ASSERT_EQ(buffer, expected) << "capacity " << capacity;
+        }
+    });
+}
+
 TEST(encoding, leaves_out_absent_members_whatever_they_hold)
 {
     for_each_case([](const Case &test_case, const Content &content) {

@@ -109,6 +109,8 @@ private:
             *complete = false;
             return kNoMemory;
         }
+        // Arrays are copied as they are, with the gaps between the members of their elements.
+        std::memcpy(copy, load_pointer(from), size_t(count) * stride);
         int32_t result = kOk;
         for (uint32_t i = 0; i < count; ++i) {
             const size_t at = size_t(i) * stride;

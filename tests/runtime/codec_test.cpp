@@ -3,7 +3,9 @@
 // functions that come of it.
 #include "runtime/codec.hpp"
 
+#include "ethsw_mgmt/switch.h"
 #include "runtime/operations.hpp"
+#include "tests/support/boxes.hpp"
 #include "tests/support/operations.hpp"
 #include "tests/support/samples.hpp"
 #include "tests/support/stranger.hpp"
@@ -72,6 +74,35 @@ TEST(record_types, of_one_layout_share_their_code)
 {
     EXPECT_TRUE((std::is_same_v<CodecFor<Leaf>, CodecFor<tarn_test_twig>>));
     EXPECT_FALSE((std::is_same_v<CodecFor<Every>, CodecFor<EveryFrom<16>>>));
+}
+
+TEST(record_types, are_known_by_what_is_in_them_at_any_depth)
+{
+    using Numbers = CodecFor<Crate<0>>;
+    EXPECT_TRUE(CodecFor<Rows>::is_plain && Numbers::is_plain && CodecFor<Crate<3>>::is_plain);
+    EXPECT_FALSE(CodecFor<Leaf>::is_plain || CodecFor<Shell>::is_plain ||
+                 CodecFor<Box<3>>::is_plain);
+    EXPECT_TRUE(CodecFor<Leaf>::owns_memory && Numbers::owns_memory &&
+                CodecFor<Shell>::owns_memory);
+    EXPECT_FALSE(CodecFor<Rows>::owns_memory || CodecFor<Nothing>::owns_memory);
+    EXPECT_TRUE(CodecFor<Rows>::defaults_are_zero && CodecFor<Shell>::defaults_are_zero);
+    EXPECT_FALSE(CodecFor<Host>::defaults_are_zero);
+}
+
+TEST(a_record, is_surely_empty_without_flags_at_any_depth)
+{
+    Crate<2> crate = {};
+    crate.inner.inner.number = 5;
+    EXPECT_TRUE(CodecFor<Crate<2>>::is_surely_empty(&crate));
+    crate.inner.inner.has_number = 1;
+    EXPECT_FALSE(CodecFor<Crate<2>>::is_surely_empty(&crate));
+    // Bits behind its own flags are nobody's.
+    Leaf leaf;
+    memset(&leaf, 0xFF, sizeof leaf);
+    leaf.has_number = leaf.has_text = 0;
+    EXPECT_TRUE(CodecFor<Leaf>::is_surely_empty(&leaf));
+    leaf.has_text = 1;
+    EXPECT_FALSE(CodecFor<Leaf>::is_surely_empty(&leaf));
 }
 
 // Two runs, of 32 and of 30; the flags of the second start in their fifth byte.
@@ -147,18 +178,58 @@ TEST(a_record_of_another_library, is_written_where_its_parent_is_and_counts_as_i
                      "encode buffer yes capacity 4 segments yes count 3 flags 9"}));
 }
 
+TEST(a_record_of_another_library, is_called_once_where_it_fits)
+{
+    const Host host = host_of(2, 1);
+    stranger_calls().clear();
+    const Encoding encoding = encode_into(10, 5, host, 8);
+    EXPECT_EQ(encoding.length, 7u);
+    EXPECT_EQ(encoding.buffer, (Bytes{0x12, 2, 0xCC, 0xCC, 0x22, 1, 0xCC, 0xA5, 0xA5, 0xA5}));
+    EXPECT_EQ(encoding.pieces,
+              "(buffer+2, 1) (buffer+2, 2) (buffer+6, 1) (buffer+6, 1) (buffer, 7)");
+    EXPECT_EQ(stranger_calls(),
+              (Calls{"encode buffer yes capacity 8 segments yes count 5 flags 8",
+                     "encode buffer yes capacity 4 segments yes count 3 flags 8"}));
+}
+
+TEST(a_record_of_another_library, moves_with_its_pieces_where_its_length_takes_two_bytes)
+{
+    const Host host = host_of(127, 128);
+    const Encoding encoding = encode_into(300, 5, host);
+    EXPECT_EQ(encoding.length, 260u);
+    EXPECT_EQ(encoding.buffer, join({{0x12, 0x7F},
+                                     Bytes(127, 0xCC),
+                                     {0x22, 0x80, 0x01},
+                                     Bytes(128, 0xCC),
+                                     Bytes(40, Encoding::kUntouched)}));
+    EXPECT_EQ(encoding.pieces,
+              "(buffer+2, 1) (buffer+2, 127) (buffer+132, 1) (buffer+132, 128) (buffer, 260)");
+}
+
 TEST(a_record_of_another_library, gets_a_count_but_no_array_when_there_is_no_room_or_no_wish)
 {
     const Host host = host_of(2, 1);
     stranger_calls().clear();
     EXPECT_EQ(encode_into(3, 2, host).count, 5u);
-    EXPECT_EQ(stranger_calls()[1], "encode buffer yes capacity 1 segments yes count 2 flags 0");
-    EXPECT_EQ(stranger_calls()[3], "encode buffer no capacity 0 segments no count 0 flags 0");
+    EXPECT_EQ(stranger_calls(), (Calls{"encode buffer yes capacity 1 segments yes count 2 flags 0",
+                                       "encode buffer no capacity 0 segments no count null flags 0",
+                                       "encode buffer yes capacity 1 segments yes count 2 flags 0",
+                                       "encode buffer no capacity 0 segments no count null flags 0",
+                                       "encode buffer no capacity 0 segments no count 0 flags 0"}));
 
     uint8_t buffer[10];
     stranger_calls().clear();
     EXPECT_EQ(CodecFor<Host>::encode(&host, buffer, 10, nullptr, nullptr, 0), 7u);
-    EXPECT_EQ(stranger_calls()[1], "encode buffer yes capacity 8 segments no count 0 flags 0");
+    EXPECT_EQ(stranger_calls()[0], "encode buffer yes capacity 8 segments no count 0 flags 0");
+}
+
+// What is written of it is its own affair, and so is whether there is anything to write.
+TEST(a_record_of_another_library, is_asked_even_when_it_seems_empty)
+{
+    const Host host = host_of(0, 0);
+    stranger_calls().clear();
+    EXPECT_EQ(encode_into(10, 5, host).length, 0u);
+    EXPECT_EQ(stranger_calls().size(), 2u);
 }
 
 TEST(a_record_of_another_library, is_decoded_by_its_own_function)
@@ -175,4 +246,26 @@ TEST(a_record_of_another_library, is_decoded_by_its_own_function)
     // Its errors are its own, whatever they are.
     EXPECT_EQ(decode<Host>({0x12, 3, 0, 0, 0}), -33);
     EXPECT_EQ(decode<Host>({0x2A, 0, 0x2A, 3, 0, 0, 0}), -33);
+}
+
+TEST(a_location, that_is_empty_is_written_when_its_flag_is_set)
+{
+    tarn_ethsw_mgmt_yield_switch_to_peer_response record = {};
+    const auto encode_ext = tarn_ethsw_mgmt_yield_switch_to_peer_response_encode_ext;
+    uint8_t buffer[40];
+    EXPECT_EQ(encode_ext(&record, buffer, 40, nullptr, nullptr, 0), 0u);
+    record.has_location = 1;
+    EXPECT_EQ(encode_ext(&record, buffer, 40, nullptr, nullptr, 0), 2u);
+    EXPECT_EQ(Bytes(buffer, buffer + 2), (Bytes{0x12, 0x00}));
+}
+
+TEST(a_location, ends_decoding_with_its_own_error)
+{
+    tarn_ethsw_mgmt_yield_switch_to_peer_response record;
+    const auto decode_ext = tarn_ethsw_mgmt_yield_switch_to_peer_response_decode_ext;
+    const Bytes cut = {0x12, 0x01, 0x08};
+    EXPECT_EQ(decode_ext(&record, cut.data(), 3, nullptr, nullptr, 0), WIRE_ERR_MALFORMED);
+    const Bytes text = {0x12, 0x02, 0x0A, 0x00, 0x08, 0x01};
+    EXPECT_EQ(decode_ext(&record, text.data(), 6, nullptr, nullptr, 0), WIRE_ERR_TYPE_MISMATCH);
+    EXPECT_FALSE(record.has_location || record.has_field_1);
 }

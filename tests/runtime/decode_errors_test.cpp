@@ -82,19 +82,23 @@ TEST(a_second_occurrence, is_tested_before_memory)
     expect_without_memory({0x2A, 0, 0x2A, 0}, kInPlace, WIRE_ERR_MALFORMED);
 
     // The others could have theirs from elsewhere.
-    using Decode = uint32_t (*)(tarn::Decoder &, uint32_t, uint8_t *, tarn::DecodedRun);
+    using Decode =
+        TARN_CALL tarn::HandedBack (*)(tarn::Cursor, tarn::Decoder &, uint8_t *, tarn::DecodedRun);
     for (auto [decode, tag] : {std::pair<Decode, uint32_t>{tarn::decode_string, 0x0A},
                                {tarn::decode_bytes, 0x0A},
                                {tarn::decode_uint32_list, 0x08},
                                {tarn::decode_string_list, 0x0A}}) {
         const uint8_t input[] = {0x00};
-        uint8_t flags = 0;
-        const uint32_t *member = reinterpret_cast<const uint32_t *>(16);
+        struct {
+            const uint32_t *member = reinterpret_cast<const uint32_t *>(16);
+            uint8_t flags = 0;
+        } record;
         tarn::Decoder in(input, 1, {nullptr, nullptr}, 0);
-        EXPECT_EQ(decode(in, tag, reinterpret_cast<uint8_t *>(&member), {&flags, 0, 1}),
-                  tarn::kStop);
+        const tarn::Cursor behind = decode({input, tag}, in, reinterpret_cast<uint8_t *>(&record),
+                                           {1, 1, 0, 0, sizeof record.member});
+        EXPECT_EQ(behind.tag, tarn::kStop);
         EXPECT_EQ(in.result(), WIRE_ERR_MALFORMED);
-        EXPECT_EQ(flags, 0);
+        EXPECT_EQ(record.flags, 0);
     }
 }
 

@@ -152,6 +152,28 @@ TEST(decoding_a_row, finds_members_by_their_numbers_in_any_order)
     EXPECT_TRUE(!rows.has_field_30 && rows.has_field_31 && rows.has_field_33);
 }
 
+TEST(decoding_a_row, keeps_what_was_read_before_an_error)
+{
+    struct Row {
+        Bytes input; // behind fields 2 and 21
+        int32_t result;
+    };
+    for (const Row &row : {Row{{0x08}, WIRE_ERR_MALFORMED},        // field 1 ends early
+                           {{0x08, 0x80}, WIRE_ERR_MALFORMED},     //
+                           {{0x0D, 0x01}, WIRE_ERR_TYPE_MISMATCH}, // field 1, not a number
+                           {{0x0A, 0x00}, WIRE_ERR_TYPE_MISMATCH},
+                           {{0xA2, 0x01, 0x00}, WIRE_ERR_TYPE_MISMATCH}, // field 20
+                           {{0xF5, 0x01}, WIRE_ERR_TYPE_MISMATCH}}) {    // field 30
+        SCOPED_TRACE(testing::PrintToString(row.input));
+        Owner<Rows> owner;
+        EXPECT_EQ(owner.decode(join({{0xA8, 0x01, 21, 0x10, 2}, row.input})), row.result);
+        EXPECT_EQ(owner.record.field_2, 2u);
+        EXPECT_EQ(owner.record.field_21, 21u);
+        EXPECT_TRUE(owner.record.has_field_2 && owner.record.has_field_21);
+        EXPECT_EQ(encode(owner.record), (Bytes{0x10, 2, 0xA8, 0x01, 21}));
+    }
+}
+
 TEST(decoding_a_row, does_not_take_neighbours_for_members)
 {
     // Fields 3, 9, 12, 19, 22, 29, 32, 34 and 257, which are none of its own.

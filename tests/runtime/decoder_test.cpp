@@ -8,7 +8,9 @@
 
 #include <gtest/gtest.h>
 
+using tarn::Cursor;
 using tarn::Decoder;
+using tarn::kNobodys;
 using tarn::kStop;
 using tarn::LoopWatch;
 using namespace test;
@@ -26,41 +28,60 @@ TEST(decoder, hands_out_tags_until_the_end)
 {
     const Bytes input = {0x08, 0x80, 0x01, 0x88, 0x80, 0x00};
     Decoder in = decoder(input);
-    EXPECT_EQ(in.next_tag(), 0x08u);
-    EXPECT_EQ(in.next_tag(), 0x80u);
-    EXPECT_EQ(in.next_tag(), 0x08u);
-    EXPECT_EQ(in.position(), 6u);
-    EXPECT_TRUE(in.at_end());
-    EXPECT_EQ(in.next_tag(), kStop);
+    const Cursor first = in.first_tag();
+    EXPECT_EQ(first.tag, 0x08u);
+    EXPECT_EQ(first.at, input.data() + 1);
+    const Cursor second = in.next_tag(first.at);
+    EXPECT_EQ(second.tag, 0x80u);
+    EXPECT_FALSE(in.at_end(second.at));
+    const Cursor third = in.next_tag(second.at);
+    EXPECT_EQ(third.tag, 0x08u);
+    EXPECT_EQ(third.at, input.data() + 6);
+    EXPECT_TRUE(in.at_end(third.at));
+    EXPECT_EQ(in.next_tag(third.at).tag, kStop);
     EXPECT_EQ(in.result(), WIRE_OK);
 }
 
 TEST(decoder, stops_where_no_tag_can_be_read)
 {
-    const Bytes input = {0x80};
-    Decoder in = decoder(input);
-    EXPECT_EQ(in.next_tag(), kStop);
-    EXPECT_EQ(in.result(), WIRE_ERR_MALFORMED);
+    for (const Bytes &input : {Bytes{0x80}, Bytes{0x80, 0x80}, Bytes{0x80, 0x80, 0x80, 0xFF}}) {
+        Decoder in = decoder(input);
+        EXPECT_EQ(Cursor(in.first_tag()).tag, kStop);
+        EXPECT_EQ(in.result(), WIRE_ERR_MALFORMED);
+    }
     Decoder empty = decoder({});
-    EXPECT_EQ(empty.next_tag(), kStop);
+    EXPECT_EQ(Cursor(empty.first_tag()).tag, kStop);
     EXPECT_EQ(empty.result(), WIRE_OK);
 }
 
-// The tag that stands for the end can come in a message, too, where it is field 0 of wire type 7.
+// The tag that stands for the end can come in a message, too: the highest field, of wire type 7.
 TEST(decoder, does_not_take_a_tag_in_the_message_for_the_end)
 {
-    for (const Bytes &input : {Bytes{0x07}, Bytes{0x87, 0x80, 0x00}}) {
+    for (const Bytes &input : {Bytes{0xFF, 0xFF, 0xFF, 0xFF, 0x0F, 0x08, 7},
+                               Bytes{0xFF, 0xFF, 0xFF, 0xFF, 0x7F, 0x08, 7},
+                               Bytes{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x80, 0x00, 0x08, 7}}) {
         Decoder in = decoder(input);
-        EXPECT_EQ(in.next_tag(), kStop);
-        EXPECT_EQ(in.result(), WIRE_ERR_WIRE_TYPE);
+        const Cursor cursor = in.first_tag();
+        EXPECT_EQ(cursor.tag, kNobodys);
+        EXPECT_EQ(cursor.at, input.data() + input.size() - 2);
+        EXPECT_EQ(in.result(), WIRE_OK);
+        EXPECT_EQ(decode<Every>(input), WIRE_ERR_WIRE_TYPE);
+        EXPECT_EQ(decode<Every>(join({{0x18, 1}, input})), WIRE_ERR_WIRE_TYPE);
+        // Inside a run of list elements, too: it ends that.
+        EXPECT_EQ(decode<Every>(join({{0x38, 1}, input})), WIRE_ERR_WIRE_TYPE);
     }
+    // What was taken for it in its place is nobody's by itself.
+    for (const Bytes &input : {Bytes{0x07}, Bytes{0x87, 0x80, 0x00}})
+        EXPECT_EQ(decode<Every>(input), WIRE_ERR_WIRE_TYPE);
 }
 
 TEST(decoder, ends_with_the_result_it_is_told)
 {
     Decoder in = decoder({});
-    EXPECT_EQ(in.stop(WIRE_ERR_NO_MEMORY), kStop);
+    EXPECT_EQ(in.stop(WIRE_ERR_NO_MEMORY).tag, kStop);
     EXPECT_EQ(in.result(), WIRE_ERR_NO_MEMORY);
+    EXPECT_EQ(in.fail(WIRE_ERR_MALFORMED), nullptr);
+    EXPECT_EQ(in.result(), WIRE_ERR_MALFORMED);
 }
 
 TEST(decoder, reads_lengths_that_the_rest_of_the_input_holds)
@@ -72,25 +93,80 @@ TEST(decoder, reads_lengths_that_the_rest_of_the_input_holds)
     for (const Row &row : {Row{{0x00}, WIRE_OK},
                            {{0x02, 1, 2}, WIRE_OK},
                            {{0x02, 1, 2, 3}, WIRE_OK},
+                           {{0x82, 0x80, 0x00, 1, 2}, WIRE_OK},
+                           {{}, WIRE_ERR_MALFORMED},
                            {{0x03, 1, 2}, WIRE_ERR_MALFORMED},
+                           {{0x83, 0x80, 0x00, 1, 2}, WIRE_ERR_MALFORMED},
                            {{0x80}, WIRE_ERR_MALFORMED},
                            {{0xFF, 0xFF, 0xFF, 0xFF, 0x0F}, WIRE_ERR_MALFORMED},
                            {{0xFB, 0xFF, 0xFF, 0xFF, 0x0F}, WIRE_ERR_MALFORMED}}) {
-        uint32_t length;
-        EXPECT_EQ(decoder(row.input).read_length(&length), row.result)
-            << testing::PrintToString(row.input);
+        SCOPED_TRACE(testing::PrintToString(row.input));
+        uint32_t length = 0;
+        Decoder in = decoder(row.input);
+        const uint8_t *at = in.read_length(row.input.data(), &length);
+        EXPECT_EQ(in.result(), row.result);
+        EXPECT_EQ(at != nullptr, row.result == WIRE_OK);
+        if (at) {
+            EXPECT_EQ(length, row.input[0] & 0x7F);
+        }
     }
 }
 
-TEST(decoder, takes_bytes_and_goes_on_behind_them)
+// A nested record sees nothing but its own bytes, and what is read in words stays inside them.
+TEST(decoder, enters_a_part_of_its_input_and_leaves_it_again)
 {
-    const Bytes input = {1, 2, 3, 4};
+    const Bytes input = {1, 2, 0x83, 0x84, 5, 6, 7, 8, 9, 10, 11, 12};
     Decoder in = decoder(input);
-    EXPECT_EQ(in.take(3), input.data());
-    EXPECT_EQ(in.take(0), input.data() + 3);
-    EXPECT_EQ(in.next_tag(), 4u);
-    in.go_back(2);
-    EXPECT_EQ(in.next_tag(), 3u);
+    const Decoder::Extent outer = in.enter(input.data() + 1, 3);
+    EXPECT_EQ(in.extent().begin, input.data() + 1);
+    EXPECT_EQ(in.extent().end, input.data() + 4);
+    EXPECT_EQ(Cursor(in.first_tag()).tag, 2u);
+    EXPECT_TRUE(in.at_end(input.data() + 4));
+    EXPECT_FALSE(in.at_end(input.data() + 3));
+    uint32_t value = 77;
+    EXPECT_EQ(in.read(input.data() + 2, &value), nullptr);
+    EXPECT_EQ(in.result(), WIRE_ERR_MALFORMED);
+    EXPECT_EQ(value, 77u);
+    in.leave(outer);
+    EXPECT_EQ(in.extent().begin, input.data());
+    EXPECT_EQ(in.read(input.data() + 2, &value), input.data() + 5);
+    EXPECT_EQ(value, 3u | 4u << 7 | 5u << 14);
+}
+
+// Behind every number of other bytes, before every number of them, and of every length.
+template <typename Value>
+void expect_numbers_read(Value value, uint32_t size)
+{
+    for (uint32_t before = 0; before <= 9; before++) {
+        for (uint32_t behind = 0; behind <= 9; behind++) {
+            Bytes input(before + size + behind, 0xFF);
+            uint32_t end = before;
+            for (Value rest = value; end < before + size; end++, rest >>= 7)
+                input[end] =
+                    static_cast<uint8_t>((rest & 0x7F) | (end + 1 < before + size ? 0x80 : 0));
+            SCOPED_TRACE(testing::PrintToString(input));
+            Decoder in = decoder(input);
+            Value found = 77;
+            EXPECT_EQ(in.read(input.data() + before, &found), input.data() + end);
+            EXPECT_EQ(found, value);
+            for (uint32_t cut = 0; cut < size; cut++) {
+                Decoder shorter(input.data(), before + cut, {nullptr, nullptr}, 0);
+                EXPECT_EQ(shorter.read(input.data() + before, &found), nullptr);
+                EXPECT_EQ(shorter.result(), WIRE_ERR_MALFORMED);
+                EXPECT_EQ(found, value);
+            }
+        }
+    }
+}
+
+TEST(decoder, reads_numbers_near_every_end)
+{
+    for (uint32_t size = 1; size <= 12; size++) {
+        expect_numbers_read<uint32_t>(5, size);
+        expect_numbers_read<uint64_t>(5, size);
+        expect_numbers_read<uint32_t>(0xFFFFFFFF >> (size < 5 ? 32 - 7 * size : 0), size);
+        expect_numbers_read<uint64_t>(UINT64_MAX >> (size < 10 ? 64 - 7 * size : 0), size);
+    }
 }
 
 TEST(decoder, knows_bytes_in_place_by_the_lowest_bit)

@@ -4,8 +4,10 @@
 #include "ethsw_mgmt/forwarding.h"
 #include "ethsw_mgmt/hardware.h"
 #include "ethsw_mgmt/switch.h"
+#include "tests/support/boxes.hpp"
 #include "tests/support/huge_text.hpp"
 #include "tests/support/operations.hpp"
+#include "tests/support/plain_encoder.hpp"
 #include "tests/support/samples.hpp"
 
 #include <gtest/gtest.h>
@@ -200,6 +202,27 @@ TEST(encoding, lets_texts_wrap_around)
     const Encoding encoding = encode_into(8, 0, round);
     EXPECT_EQ(encoding.length, 5u);
     EXPECT_EQ(encoding.buffer, (Bytes{0x12, 0xFF, 0xFF, 0xFF, 0xFF, 0x0F, 0xA5, 0xA5}));
+}
+
+// Five bytes of length and 2^32 - 1 characters: measured, the innermost is five bytes long. It
+// seems to fit then, near the end of a buffer in which what is around it is tried.
+TEST(encoding, is_not_misled_by_a_nested_text_that_wraps_around)
+{
+    if (!HugeText::possible)
+        GTEST_SKIP() << "a text of 4 GiB needs 64-bit addresses";
+    HugeText text;
+    ASSERT_NE(text.of_length(0), nullptr);
+    Box<2> record = {};
+    record.inner.inner.text = text.of_length(0xFFFFFFFF);
+    record.inner.inner.has_text = 1;
+    constexpr uint32_t kCapacity = 130; // all of it is room enough to try, less is not
+    Bytes found(kCapacity + 20, Encoding::kUntouched), plain = found;
+    const uint32_t length =
+        plain_encode<Box<2>>(&record, plain.data(), kCapacity, nullptr, nullptr, 0);
+    EXPECT_EQ(length, 9u);
+    EXPECT_EQ(CodecFor<Box<2>>::encode(&record, found.data(), kCapacity, nullptr, nullptr, 0),
+              length);
+    EXPECT_EQ(found, plain);
 }
 
 TEST(encoding, gives_high_field_numbers_longer_tags)

@@ -5,16 +5,19 @@
 
 #include "runtime/member.hpp"
 #include "runtime/record.h"
+#include "wire/varint.hpp"
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <string>
+#include <vector>
 
 using namespace tarn;
 
 namespace {
 
-// Tags of one, two and two bytes; a third one with three.
+// Tags of one, two, two and three bytes.
 constexpr uint32_t kTag1 = 0x08, kTag16 = 0x80, kTag32 = 0x100, kTag2048 = 0x4000;
 
 struct Pair {
@@ -32,13 +35,13 @@ const uint8_t *member(const char *const &text)
     return reinterpret_cast<const uint8_t *>(&text);
 }
 
-uint32_t measure_nothing(const void *, uint32_t)
+TARN_CALL uint32_t measure_nothing(const void *, uint32_t)
 {
     return 0;
 }
 
 // A record's length is its first byte; under another flags word it is one more.
-uint32_t measure_by_first_byte(const void *record, uint32_t flags)
+TARN_CALL uint32_t measure_by_first_byte(const void *record, uint32_t flags)
 {
     return *static_cast<const uint8_t *>(record) + flags;
 }
@@ -86,71 +89,106 @@ TEST(measuring_a_run, reaches_its_32nd_member)
     EXPECT_EQ(measure_bools(0, truths, 0x80000000, kTag1), 4u);
 }
 
+// Sizes are added up four at a time where all are present: every place counts, and every edge.
+TEST(measuring_a_run, without_gaps_gives_what_its_members_give_one_by_one)
+{
+    const uint64_t edges[] = {0,          127,        128,        16383,          16384,
+                              2097151,    2097152,    268435455,  268435456,      UINT32_MAX,
+                              1ull << 32, 1ull << 56, 1ull << 63, 1ull << 63 | 1, UINT64_MAX};
+    uint32_t numbers[32];
+    uint64_t wide[32];
+    uint8_t truths[32];
+    for (uint32_t i = 0; i < 32; i++) {
+        wide[i] = edges[i % std::size(edges)];
+        numbers[i] = static_cast<uint32_t>(edges[(i + 3) % 10]);
+        truths[i] = static_cast<uint8_t>(127 + i % 2);
+    }
+    for (uint32_t tag : {kTag1, 0x70u, 0x78u, kTag16, kTag32}) {
+        uint32_t number_sum = 7, wide_sum = 7, truth_sum = 7;
+        for (uint32_t count = 1; count <= 32; count++) {
+            const uint32_t last = count - 1, all = UINT32_MAX >> (32 - count);
+            const uint32_t tag_size = wire_varint32_size(tag + last * kTagStep);
+            number_sum += tag_size + wire_varint32_size(numbers[last]);
+            wide_sum += tag_size + wire_varint64_size(wide[last]);
+            truth_sum += tag_size + wire_varint32_size(truths[last]);
+            EXPECT_EQ(measure_uint32s(7, numbers, all, tag), number_sum) << tag << ": " << count;
+            EXPECT_EQ(measure_uint64s(7, wide, all, tag), wide_sum) << tag << ": " << count;
+            EXPECT_EQ(measure_bools(7, truths, all, tag), truth_sum) << tag << ": " << count;
+        }
+    }
+}
+
 TEST(measuring_a_string, takes_tag_length_and_characters)
 {
     const std::string long_text(128, 'x');
     const char *texts[] = {"", "ab", long_text.c_str(), nullptr};
-    EXPECT_EQ(measure_string(5, member(texts[0]), 1, kTag1), 7u);
-    EXPECT_EQ(measure_string(5, member(texts[1]), 1, kTag16), 10u);
-    EXPECT_EQ(measure_string(5, member(texts[2]), 1, kTag1), 136u);
-    EXPECT_EQ(measure_string(5, member(texts[3]), 1, kTag1), 5u);
-    EXPECT_EQ(measure_string(5, member(texts[1]), 0, kTag1), 5u);
+    EXPECT_EQ(measure_string(5, member(texts[0]), 1), 7u);
+    EXPECT_EQ(measure_string(5, member(texts[1]), 2), 10u);
+    EXPECT_EQ(measure_string(5, member(texts[2]), 1), 136u);
+    EXPECT_EQ(measure_string(5, member(texts[3]), 1), 5u);
 }
 
 TEST(measuring_a_byte_string, takes_tag_length_and_bytes_unless_they_stay_in_place)
 {
-    EXPECT_EQ(measure_bytes(5, member({kNowhere, 4}), 0, kTag1, 0), 5u);
-    EXPECT_EQ(measure_bytes(5, member({kNowhere, 4}), 1, kTag1, 0), 11u);
-    EXPECT_EQ(measure_bytes(5, member({kNowhere, 200}), 1, kTag32, 0), 209u);
-    EXPECT_EQ(measure_bytes(5, member({nullptr, 0}), 1, kTag1, 0), 7u);
+    EXPECT_EQ(measure_bytes(5, member({kNowhere, 4}), 0, 1), 11u);
+    EXPECT_EQ(measure_bytes(5, member({kNowhere, 200}), 0, 2), 209u);
+    EXPECT_EQ(measure_bytes(5, member({nullptr, 0}), 0, 1), 7u);
     for (uint32_t flags : {1u, 3u, 0xFFFFFFFFu})
-        EXPECT_EQ(measure_bytes(5, member({kNowhere, 200}), 1, kTag1, flags), 8u);
+        EXPECT_EQ(measure_bytes(5, member({kNowhere, 200}), flags, 1), 8u);
     for (uint32_t flags : {2u, 0xFFFFFFFEu})
-        EXPECT_EQ(measure_bytes(5, member({kNowhere, 200}), 1, kTag1, flags), 208u);
+        EXPECT_EQ(measure_bytes(5, member({kNowhere, 200}), flags, 1), 208u);
 }
 
 // Six bytes of tag and length, then a length that reaches 2^32 or just does not.
 TEST(measuring_a_byte_string, takes_one_that_would_wrap_for_empty)
 {
-    EXPECT_EQ(measure_bytes(0, member({kNowhere, 0xFFFFFFF9}), 1, kTag1, 0), 0xFFFFFFFFu);
-    EXPECT_EQ(measure_bytes(0, member({kNowhere, 0xFFFFFFFA}), 1, kTag1, 0), 6u);
-    EXPECT_EQ(measure_bytes(1, member({kNowhere, 0xFFFFFFF9}), 1, kTag1, 0), 7u);
-    EXPECT_EQ(measure_bytes(0, member({kNowhere, 0xFFFFFFFF}), 1, kTag1, 0), 6u);
-    EXPECT_EQ(measure_bytes(100, member({kNowhere, 0xFFFFFFFF}), 1, kTag1, 1), 106u);
+    EXPECT_EQ(measure_bytes(0, member({kNowhere, 0xFFFFFFF9}), 0, 1), 0xFFFFFFFFu);
+    EXPECT_EQ(measure_bytes(0, member({kNowhere, 0xFFFFFFFA}), 0, 1), 6u);
+    EXPECT_EQ(measure_bytes(1, member({kNowhere, 0xFFFFFFF9}), 0, 1), 7u);
+    EXPECT_EQ(measure_bytes(0, member({kNowhere, 0xFFFFFFFF}), 0, 1), 6u);
+    EXPECT_EQ(measure_bytes(100, member({kNowhere, 0xFFFFFFFF}), 1, 1), 106u);
 }
 
 TEST(measuring_an_embedded_record, takes_it_when_it_is_present_or_not_empty)
 {
-    EXPECT_EQ(measure_message(5, 0, 0, kTag1), 5u);
-    EXPECT_EQ(measure_message(5, 0, 1, kTag1), 7u);
-    EXPECT_EQ(measure_message(5, 3, 0, kTag1), 10u);
-    EXPECT_EQ(measure_message(5, 128, 1, kTag16), 137u);
+    EXPECT_EQ(measure_message(5, 0, 0, 1), 5u);
+    EXPECT_EQ(measure_message(5, 0, 1, 1), 7u);
+    EXPECT_EQ(measure_message(5, 3, 0, 1), 10u);
+    EXPECT_EQ(measure_message(5, 128, 1, 2), 137u);
     // Its length is added as it is, and may wrap.
-    EXPECT_EQ(measure_message(5, 0xFFFFFFFF, 1, kTag1), 10u);
+    EXPECT_EQ(measure_message(5, 0xFFFFFFFF, 1, 1), 10u);
 }
 
-TEST(measuring_a_list, takes_every_element_when_it_is_present)
+TEST(measuring_a_list, takes_every_element)
 {
     const uint32_t numbers[] = {1, 300, 0xFFFFFFFF};
-    EXPECT_EQ(measure_uint32_list(5, member({numbers, 3}), 1, kTag1), 16u);
-    EXPECT_EQ(measure_uint32_list(5, member({numbers, 3}), 1, kTag32), 19u);
-    EXPECT_EQ(measure_uint32_list(5, member({kNowhere, 3}), 0, kTag1), 5u);
-    EXPECT_EQ(measure_uint32_list(5, member({nullptr, 0}), 1, kTag1), 5u);
+    EXPECT_EQ(measure_uint32_list(5, member({numbers, 3}), 1), 16u);
+    EXPECT_EQ(measure_uint32_list(5, member({numbers, 3}), 2), 19u);
+    EXPECT_EQ(measure_uint32_list(5, member({nullptr, 0}), 1), 5u);
 
     const char *texts[] = {"", "abc"};
-    EXPECT_EQ(measure_string_list(5, member({texts, 2}), 1, kTag1), 12u);
-    EXPECT_EQ(measure_string_list(5, member({texts, 2}), 1, kTag16), 14u);
-    EXPECT_EQ(measure_string_list(5, member({texts, 2}), 0, kTag1), 5u);
-    EXPECT_EQ(measure_string_list(5, member({nullptr, 2}), 1, kTag1), 5u);
+    EXPECT_EQ(measure_string_list(5, member({texts, 2}), 1), 12u);
+    EXPECT_EQ(measure_string_list(5, member({texts, 2}), 2), 14u);
+    EXPECT_EQ(measure_string_list(5, member({nullptr, 2}), 1), 5u);
 
     const uint8_t records[] = {0, 9, 3, 9, 126, 9};
     const Pair list = {records, 3};
-    EXPECT_EQ(measure_message_list(5, member(list), 1, kTag1, 2, measure_by_first_byte, 0), 140u);
+    EXPECT_EQ(measure_message_list(5, member(list), 0, 1, 2, measure_by_first_byte), 140u);
     // The flags word reaches the elements.
-    EXPECT_EQ(measure_message_list(5, member(list), 1, kTag1, 2, measure_by_first_byte, 2), 147u);
-    EXPECT_EQ(measure_message_list(5, member(list), 1, kTag16, 2, measure_nothing, 0), 14u);
-    EXPECT_EQ(measure_message_list(5, member({kNowhere, 3}), 0, kTag1, 2, measure_by_first_byte, 0),
-              5u);
-    EXPECT_EQ(measure_message_list(5, member({nullptr, 0}), 1, kTag1, 2, measure_by_first_byte, 0),
-              5u);
+    EXPECT_EQ(measure_message_list(5, member(list), 2, 1, 2, measure_by_first_byte), 147u);
+    EXPECT_EQ(measure_message_list(5, member(list), 0, 2, 2, measure_nothing), 14u);
+    EXPECT_EQ(measure_message_list(5, member({nullptr, 0}), 0, 1, 2, measure_by_first_byte), 5u);
+}
+
+TEST(measuring_a_list, of_numbers_takes_every_place_and_every_size)
+{
+    const uint32_t edges[] = {0,       127,     128,       16383,     16384,
+                              2097151, 2097152, 268435455, 268435456, UINT32_MAX};
+    std::vector<uint32_t> numbers;
+    uint32_t sum = 0;
+    for (uint32_t count = 0; count <= 40; count++) {
+        EXPECT_EQ(measure_uint32_list(5, member({numbers.data(), count}), 2), 5 + sum) << count;
+        numbers.push_back(edges[count % 7 + count / 7 % 4]);
+        sum += 2 + wire_varint32_size(numbers.back());
+    }
 }

@@ -60,6 +60,51 @@ TEST(a_flag, may_be_set_and_cleared_again)
     EXPECT_EQ(flags, (Bytes{0x58}));
 }
 
+TEST(a_flag, tells_its_own_bit)
+{
+    for (uint32_t bit = 0; bit < 24; bit++) {
+        Bytes flags(3, 0x00);
+        set_flag(flags.data(), bit);
+        for (uint32_t other = 0; other < 24; other++)
+            EXPECT_EQ(has_flag(flags.data(), other), other == bit) << bit << " and " << other;
+    }
+}
+
+// The block has no byte more than the flags that are set reach.
+TEST(flags, of_members_in_a_row_are_set_together_and_alone)
+{
+    struct Row {
+        uint32_t first, present;
+        Bytes before, after;
+    };
+    for (const Row &row : {Row{0, 0x1, {0x00}, {0x01}},
+                           {3, 0x5, {0x02}, {0x2A}},
+                           {7, 0x3, {0x00, 0x40}, {0x80, 0x41}},
+                           {6, 0x3, {0x01}, {0xC1}},
+                           {9, 0x1, {0xFF, 0x00}, {0xFF, 0x02}},
+                           {0, 0x12345678, {0, 0, 0, 0}, {0x78, 0x56, 0x34, 0x12}},
+                           {15, 0x80000001, {0, 0, 0, 0, 0, 0}, {0, 0x80, 0, 0, 0, 0x40}},
+                           {7, 0xFFFFFFFF, {0, 0, 0, 0, 0}, {0x80, 0xFF, 0xFF, 0xFF, 0x7F}},
+                           {4, 0, {0x5A}, {0x5A}}}) {
+        Bytes flags = row.before;
+        set_flags(flags.data(), row.first, row.present);
+        EXPECT_EQ(flags, row.after) << row.first;
+    }
+}
+
+TEST(all_flags, are_those_of_the_members_and_of_nobody_else)
+{
+    const Bytes full(8, 0xFF);
+    for (uint32_t members = 1; members <= 64; members++) {
+        const Bytes flags = full.first((members + 7) / 8);
+        EXPECT_EQ(all_flags(flags.data(), members), ~uint64_t{0} >> (64 - members));
+    }
+    const Bytes some = {0x78, 0x56, 0x34, 0x12, 0xF0, 0xDE, 0xBC, 0x9A};
+    EXPECT_EQ(all_flags(some.data(), 64), 0x9ABCDEF012345678u);
+    EXPECT_EQ(all_flags(some.data(), 37), 0x1012345678u);
+    EXPECT_EQ(all_flags(nullptr, 0), 0u);
+}
+
 TEST(the_flags_of_a_run, start_with_its_first_member_and_hold_no_others)
 {
     EXPECT_EQ((present<0, 1>({0x01})), 1u);

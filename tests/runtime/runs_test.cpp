@@ -47,7 +47,7 @@ TEST(a_run_of_numbers, is_measured_and_written_from_its_own_tag_and_flag_on)
     EXPECT_EQ((measure_run<kRun, void>(7, bytes, record.flags, 0)), 7u + 3 + 4);
     Bytes buffer(7);
     Encoder out(buffer.data(), 7, nullptr, nullptr, 0);
-    write_run<kRun, void>(out, bytes, record.flags);
+    EXPECT_EQ((write_run<kRun, void>(0, out, out.roomy(), bytes, record.flags)), 7u);
     EXPECT_EQ(buffer, (Bytes{0xF8, 0x01, 0x02, 0x80, 0x02, 0xAC, 0x02}));
 }
 
@@ -57,9 +57,10 @@ TEST(a_run_of_numbers, is_decoded_to_its_own_members_and_flags)
     const uint8_t input[] = {0x05, 0x88, 0x02, 0x06, 0x90, 0x02};
     Decoder in(input, sizeof input, {nullptr, nullptr}, 0);
     // Fields 30 and 33; field 34 is handed on.
-    EXPECT_EQ(
-        (decode_run<kRun, void>(in, 0xF0, reinterpret_cast<uint8_t *>(&record), record.flags)),
-        0x110u);
+    const Cursor next = decode_run<kRun, void>(
+        {input, 0xF0}, in, reinterpret_cast<uint8_t *>(&record), offsetof(Record, flags));
+    EXPECT_EQ(next.tag, 0x110u);
+    EXPECT_EQ(next.at, input + sizeof input);
     EXPECT_EQ(record.members[0], 5u);
     EXPECT_EQ(record.members[3], 6u);
     EXPECT_EQ(record.other[1], 0u);
@@ -70,10 +71,13 @@ TEST(a_run_of_numbers, is_decoded_to_its_own_members_and_flags)
 TEST(a_run_of_numbers, hands_on_a_tag_that_is_not_its_own)
 {
     Record record = {};
-    Decoder in(nullptr, 0, {nullptr, nullptr}, 0);
-    for (uint32_t tag : {0x00u, 0x08u, 0xE8u, 0x110u, 0xFFFFFFF8u, kStop})
-        EXPECT_EQ(
-            (decode_run<kRun, void>(in, tag, reinterpret_cast<uint8_t *>(&record), record.flags)),
-            tag);
+    const uint8_t input[] = {0x05};
+    Decoder in(input, 1, {nullptr, nullptr}, 0);
+    for (uint32_t tag : {0x00u, 0x08u, 0xE8u, 0x110u, 0xFFFFFFF8u, kStop}) {
+        const Cursor cursor = decode_run<kRun, void>(
+            {input, tag}, in, reinterpret_cast<uint8_t *>(&record), offsetof(Record, flags));
+        EXPECT_EQ(cursor.tag, tag);
+        EXPECT_EQ(cursor.at, input);
+    }
     EXPECT_EQ(record.flags[0] | record.flags[1], 0);
 }

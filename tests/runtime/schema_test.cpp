@@ -84,22 +84,46 @@ TEST(kinds, know_what_they_are)
 {
     struct Row {
         Kind kind;
-        bool scalar, nested, owner, pair;
+        bool scalar, number, nested, pointer, pair;
     };
-    for (const Row &row :
-         {Row{Kind::uint32, true, false, false, false},
-          Row{Kind::uint64, true, false, false, false},
-          Row{Kind::boolean, true, false, false, false},
-          Row{Kind::string, false, false, true, false}, Row{Kind::bytes, false, false, true, true},
-          Row{Kind::message, false, true, true, false},
-          Row{Kind::repeated_uint32, false, false, true, true},
-          Row{Kind::repeated_string, false, false, true, true},
-          Row{Kind::repeated_message, false, true, true, true}}) {
+    for (const Row &row : {Row{Kind::uint32, true, true, false, false, false},
+                           Row{Kind::uint64, true, true, false, false, false},
+                           Row{Kind::boolean, true, true, false, false, false},
+                           Row{Kind::string, false, false, false, true, false},
+                           Row{Kind::bytes, false, false, false, true, true},
+                           Row{Kind::message, false, false, true, false, false},
+                           Row{Kind::repeated_uint32, false, true, false, true, true},
+                           Row{Kind::repeated_string, false, false, false, true, true},
+                           Row{Kind::repeated_message, false, false, true, true, true}}) {
         EXPECT_EQ(is_scalar(row.kind), row.scalar);
+        EXPECT_EQ(is_number(row.kind), row.number);
         EXPECT_EQ(is_nested(row.kind), row.nested);
-        EXPECT_EQ(owns_memory(row.kind), row.owner);
+        EXPECT_EQ(has_pointer(row.kind), row.pointer);
         EXPECT_EQ(is_pair(row.kind), row.pair);
     }
+}
+
+// What is nested answers for itself: see the codecs.
+TEST(a_layout, knows_whether_its_own_members_point_somewhere_or_are_only_numbers)
+{
+    struct Row {
+        Kind kind;
+        bool pointers, numbers;
+    };
+    for (const Row &row :
+         {Row{Kind::uint32, false, true}, Row{Kind::uint64, false, true},
+          Row{Kind::boolean, false, true}, Row{Kind::string, true, false},
+          Row{Kind::bytes, true, false}, Row{Kind::message, false, true},
+          Row{Kind::repeated_uint32, true, true}, Row{Kind::repeated_string, true, false},
+          Row{Kind::repeated_message, true, true}}) {
+        Layout<2, 1> layout{};
+        layout.runs[0] = {Kind::uint32, 1, 1, 0, 0};
+        layout.runs[1] = {row.kind, 1, 2, 1, 8};
+        EXPECT_EQ(layout.has_pointers(), row.pointers);
+        EXPECT_EQ(layout.has_only_numbers(), row.numbers);
+    }
+    EXPECT_FALSE(layout_of<test::Nothing>().has_pointers());
+    EXPECT_TRUE(layout_of<test::Nothing>().has_only_numbers());
 }
 
 TEST(kinds, go_with_one_type_of_member_each)

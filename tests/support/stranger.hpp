@@ -38,8 +38,13 @@ inline uint32_t stranger_encode_ext(const Stranger *record, uint8_t *buffer, uin
         buffer[i] = 0xCC;
     if (!segment_count)
         return record->length;
-    *segment_count = 2;
-    return 1000; // of no interest: what it said without a count is what counts
+    // Its first byte, and all of it.
+    const uint32_t room = *segment_count;
+    *segment_count = record->length ? 2 : 0;
+    for (uint32_t i = 0; i < *segment_count && i < room; i++)
+        segments[i] = {buffer, i == 0 ? 1 : record->length};
+    // With byte strings in place of no interest: what it said without a count is what counts.
+    return (flags & WIRE_FLAG_BYTES_IN_PLACE) != 0 ? 1000 : record->length;
 }
 
 inline int32_t stranger_decode_ext(Stranger *record, const uint8_t *, uint32_t len, wire_alloc_fn,

@@ -199,9 +199,12 @@ TEST(the_size_of_a_varint, grows_by_one_every_seven_bits)
         const uint32_t size = (bits + 6) / 7;
         EXPECT_EQ(wire_varint64_size(smallest), size) << bits << " bits";
         EXPECT_EQ(wire_varint64_size(largest), size) << bits << " bits";
+        EXPECT_EQ(wire_varint64_size(largest, 2), 2 + size) << bits << " bits";
         if (bits > 32)
             continue;
         EXPECT_EQ(wire_varint32_size(static_cast<uint32_t>(smallest)), size) << bits << " bits";
         EXPECT_EQ(wire_varint32_size(static_cast<uint32_t>(largest)), size) << bits << " bits";
+        EXPECT_EQ(wire_varint32_size(static_cast<uint32_t>(largest), 1), 1 + size)
+            << bits << " bits";
     }
 }
