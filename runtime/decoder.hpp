@@ -22,6 +22,7 @@ struct Cursor {
     uint32_t tag;
 
 #ifdef __i386__
+    // cppcheck-suppress noExplicitConstructor
     Cursor(uint64_t packed)
         : at(reinterpret_cast<const uint8_t *>( // NOLINT(performance-no-int-to-ptr)
               static_cast<uintptr_t>(packed))),

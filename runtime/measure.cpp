@@ -41,7 +41,7 @@ uint32_t sizes_of_fours(const uint32_t *values, uint32_t fours)
     const Four four_bytes = four_times(kLowest + 0xFFFFFFF);
     FourCounts more = {};
     for (uint32_t i = 0; i < fours; i++) {
-        Four four;
+        Four four = {};
         memcpy(&four, values + size_t{4} * i, sizeof four);
         four ^= lowest;
         // A comparison that holds gives -1.

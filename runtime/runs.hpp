@@ -36,8 +36,9 @@ constexpr uint32_t kLongRunOfPairs = kIsSmall ? 1 : 2;
 
 constexpr bool is_long(const Run &run, uint32_t long_run = kLongRun)
 {
-    const bool pairs = kIsSmallMachine && run.kind == Kind::uint64;
-    return is_scalar(run.kind) && run.count >= (pairs ? kLongRunOfPairs : long_run);
+    const uint32_t long_wide_run = kIsSmallMachine ? kLongRunOfPairs : long_run;
+    return is_scalar(run.kind) &&
+           run.count >= (run.kind == Kind::uint64 ? long_wide_run : long_run);
 }
 
 // In all that follows Child is the codec of the record type behind a nested run, else void.

@@ -70,6 +70,8 @@ TEST(decoder, does_not_take_a_tag_in_the_message_for_the_end)
         // Inside a run of list elements, too: it ends that.
         EXPECT_EQ(decode<Every>(join({{0x38, 1}, input})), WIRE_ERR_WIRE_TYPE);
     }
+    // It is not skipped like a number.
+    EXPECT_EQ(decode<Every>({0xFF, 0xFF, 0xFF, 0xFF, 0x0F, 0x08}), WIRE_ERR_WIRE_TYPE);
     // What was taken for it in its place is nobody's by itself.
     for (const Bytes &input : {Bytes{0x07}, Bytes{0x87, 0x80, 0x00}})
         EXPECT_EQ(decode<Every>(input), WIRE_ERR_WIRE_TYPE);
