@@ -134,7 +134,7 @@ struct Referee::Schema {
 
 Referee::Referee() : schema_(std::make_unique<Schema>())
 {
-    const test::Unwatched unwatched; // protobuf does not tell what it has written
+    [[maybe_unused]] const test::Unwatched unwatched; // protobuf does not tell what it has written
     for (const char *name : kFiles) {
         const pb::FileDescriptor *file = schema_->importer.Import(name);
         if (!file)
