@@ -5,6 +5,7 @@
 #pragma once
 
 #include "runtime/runs.hpp"
+#include "runtime/spans.hpp"
 
 #include <utility>
 
@@ -43,11 +44,16 @@ class Codec {
 
 public:
     static constexpr uint32_t size = layout.size;
+    static constexpr bool is_foreign = false;
     // Nothing but numbers all the way down.
     static constexpr bool is_plain = layout.has_only_numbers() && (Children::is_plain && ...);
     // Whether a record may have blocks to release.
     static constexpr bool owns_memory = layout.has_pointers() || (Children::owns_memory || ...);
     static constexpr bool defaults_are_zero = (Children::defaults_are_zero && ...);
+    // So little that to prepare for writing would take longer than to write.
+    static constexpr bool is_tiny = !kIsSmall && is_plain && !owns_memory &&
+                                    sizeof...(Children) == 0 && layout.members >= 1 &&
+                                    layout.members <= 2;
 
     // Without its flags nothing is written of a record, but for what is embedded in it.
     TARN_INLINE static bool is_surely_empty(const void *record)
@@ -62,6 +68,11 @@ public:
     }
 
     TARN_CALL static uint32_t measure(const void *record, uint32_t flags)
+    {
+        return measure_here(record, flags);
+    }
+
+    TARN_INLINE static uint32_t measure_here(const void *record, uint32_t flags)
     {
         const uint8_t *bytes = static_cast<const uint8_t *>(record);
         uint32_t offset = 0;
@@ -81,19 +92,41 @@ public:
         return offset;
     }
 
+    // Writes a tiny record where it is known to fit.
+    TARN_INLINE static void store(uint8_t *buffer, const void *record)
+    {
+        uint8_t *to = buffer;
+        const uint8_t *bytes = static_cast<const uint8_t *>(record);
+        for_each_run([&]<Run run, typename Child>() TARN_INLINE {
+            to = store_run<run>(to, bytes + run.offset, bytes + layout.flags);
+        });
+    }
+
     [[gnu::noinline]] static uint32_t encode(const void *record, uint8_t *buffer, uint32_t capacity,
                                              WireSegment *segments, uint32_t *segment_count,
                                              uint32_t flags)
     {
-        if (capacity == 0 && !segment_count)
+        if constexpr (is_tiny) {
+            const uint32_t length = measure_here(record, flags);
+            if (length <= capacity && !segment_count)
+                store(buffer, record);
+            if (!segment_count && (length <= capacity || capacity == 0))
+                return length;
+        } else if (!kIsSmall && !kIsSmallMachine && capacity == 0 && !segment_count) {
             return measure(record, flags);
-        return encode_record(record, buffer, capacity, segments, segment_count, flags, write);
+        }
+        if constexpr (kIsSmallMachine &&
+                      !is_tiny) // whose arguments can stay where they are, on the stack
+            return measure_or_encode_record(write, measure_of<Codec>(), record, buffer, capacity,
+                                            segments, segment_count, flags);
+        else
+            return encode_record(write, record, buffer, capacity, segments, segment_count, flags);
     }
 
     static void initialise(void *record)
     {
         uint8_t *bytes = static_cast<uint8_t *>(record);
-        for_each_span([&]<Span span>() TARN_INLINE { memset(bytes + span.offset, 0, span.size); });
+        for_each_span([&]<Span span>() TARN_INLINE { clear_span<span.size>(bytes + span.offset); });
         for_each_run([&]<Run run, typename Child>() TARN_INLINE {
             if constexpr (run.kind == Kind::message)
                 Child::initialise(bytes + run.offset);
@@ -105,27 +138,39 @@ public:
     [[gnu::noinline]] static int32_t decode(void *record, const uint8_t *buf, uint32_t len,
                                             wire_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
     {
-        initialise(record);
-        Decoder in(buf, len, {alloc_fn, alloc_ctx}, flags);
-        decode_fields(in, record);
-        return in.result();
+        if constexpr (kIsSmall) {
+            return decode_message_as(decode_anew, record, buf, len, alloc_fn, alloc_ctx, flags);
+        } else {
+            initialise(record);
+            Decoder in(buf, len, {alloc_fn, alloc_ctx}, flags);
+            decode_fields(in, record);
+            return in.result();
+        }
     }
 
     // Decodes into a record that has its defaults already.
     TARN_CALL static void decode_fields(Decoder &in, void *record)
     {
+        constexpr uint32_t kPresence = presence_at(layout.flags, layout.members);
         uint8_t *bytes = static_cast<uint8_t *>(record);
-        Cursor cursor = in.first_tag();
-        LoopWatch watch;
-        while (cursor.tag != kStop) {
-            const uint8_t *at = cursor.at;
-            for_each_run([&]<Run run, typename Child>() TARN_INLINE {
-                cursor = decode_run<run, Child>(cursor, in, bytes, layout.flags);
-            });
-            // Whoever takes a tag reads on behind it.
-            if (cursor.tag != kStop && cursor.at == at)
-                cursor = in.skip(cursor, watch, bytes + layout.flags, layout.members);
-        }
+        if constexpr (kIsSmall)
+            decode_by_rounds(in, bytes, kPresence, decode_round);
+        else
+            decode_rounds(in, bytes, kPresence, decode_round_here);
+    }
+
+    // Passes a tag along the line of runs, which read on behind it.
+    TARN_CALL static HandedBack decode_round(Cursor cursor, Decoder &in, uint8_t *record)
+    {
+        return decode_round_here(cursor, in, record);
+    }
+
+    TARN_INLINE static Cursor decode_round_here(Cursor cursor, Decoder &in, uint8_t *record)
+    {
+        for_each_run([&]<Run run, typename Child>() TARN_INLINE {
+            cursor = decode_run<run, Child>(cursor, in, record, layout.flags);
+        });
+        return cursor;
     }
 
     // Decodes into whatever is there.
@@ -157,8 +202,9 @@ public:
     {
         uint8_t *to = static_cast<uint8_t *>(dst);
         const uint8_t *from = static_cast<const uint8_t *>(src);
-        for_each_span([&]<Span span>()
-                          TARN_INLINE { memcpy(to + span.offset, from + span.offset, span.size); });
+        for_each_span([&]<Span span>() TARN_INLINE {
+            copy_span<span.size>(to + span.offset, from + span.offset);
+        });
         for_each_run([&]<Run run, typename Child>() TARN_INLINE {
             if constexpr (run.kind == Kind::message)
                 Child::copy_bytes(to + run.offset, from + run.offset);

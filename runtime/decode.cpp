@@ -20,19 +20,39 @@ uint32_t place_in_run(uint32_t tag, const DecodedRun &run)
     return distance >> 3 | distance << 29;
 }
 
+// Runs of wide members are counters.
+TARN_INLINE inline const uint8_t *read_of_run(Decoder &in, const uint8_t *at, uint64_t *value)
+{
+    return in.read_any(at, value);
+}
+
+TARN_INLINE inline const uint8_t *read_of_run(Decoder &in, const uint8_t *at, uint32_t *value)
+{
+    return in.read(at, value);
+}
+
 // Reads one varint for each of its tags into the members of the run; a value that comes again
 // replaces the one before. Flags are gathered and set together at the end.
 template <typename Wide, typename Member, typename Store>
 HandedBack decode_scalars(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run, Store store)
 {
-    uint32_t place = place_in_run(cursor.tag, run);
+    uint32_t place = place_in_run(cursor.tag(), run);
     if (place < run.count) {
         Member *const members = reinterpret_cast<Member *>(record + run.offset);
         const uint32_t count = run.count;
         uint32_t present = 0;
-        do {
+        if constexpr (sizeof(Member) == sizeof(uint32_t) && !kIsSmall) {
+            while (place < count && count - place >= 4 &&
+                   in.is_first_of_four_small(cursor, kTagStep)) {
+                load_four_small(members + place, cursor.at - 1);
+                present |= 0xFu << place;
+                cursor = in.next_tag(cursor.at - 1 + kFourSmall);
+                place = place_in_run(cursor.tag(), run);
+            }
+        }
+        while (place < count) {
             Wide value;
-            const uint8_t *at = in.read(cursor.at, &value);
+            const uint8_t *at = read_of_run(in, cursor.at, &value);
             if (!at) {
                 cursor = {at, kStop};
                 break;
@@ -40,11 +60,11 @@ HandedBack decode_scalars(Cursor cursor, Decoder &in, uint8_t *record, DecodedRu
             members[place] = store(value);
             present |= 1u << place;
             cursor = in.next_tag(at);
-            place = place_in_run(cursor.tag, run);
-        } while (place < count);
+            place = place_in_run(cursor.tag(), run);
+        }
         set_flags(record + run.flags, run.first_bit, present);
     }
-    if (field_number_of(cursor.tag) - run.number < run.count)
+    if (field_number_of(cursor.tag()) - run.number < run.count)
         return in.stop(WIRE_ERR_TYPE_MISMATCH);
     return cursor;
 }
@@ -53,9 +73,9 @@ HandedBack decode_scalars(Cursor cursor, Decoder &in, uint8_t *record, DecodedRu
 template <typename Wide, typename Member, typename Store>
 HandedBack decode_scalar(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run, Store store)
 {
-    if (!is_field(cursor.tag, run))
+    if (!is_field(cursor.tag(), run))
         return cursor;
-    if (wire_type_of(cursor.tag) != kVarint)
+    if (wire_type_of(cursor.tag()) != kVarint)
         return in.stop(WIRE_ERR_TYPE_MISMATCH);
     Wide value;
     const uint8_t *at = in.read(cursor.at, &value);
@@ -171,21 +191,21 @@ HandedBack decode_bool(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun r
 
 HandedBack decode_string(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
 {
-    if (!is_field(cursor.tag, run))
+    if (!is_field(cursor.tag(), run))
         return cursor;
     uint8_t *member = record + run.offset;
     if (int32_t error =
-            check_pointer_member(cursor.tag, kLengthDelimited, member, in.memory().alloc_fn))
+            check_pointer_member(cursor.tag(), kLengthDelimited, member, in.memory().alloc_fn))
         return in.stop(error);
     return finish_field(in, read_text(in, cursor.at, member), record, run);
 }
 
 HandedBack decode_bytes(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run)
 {
-    if (!is_field(cursor.tag, run))
+    if (!is_field(cursor.tag(), run))
         return cursor;
     uint8_t *member = record + run.offset;
-    if (int32_t error = check_pointer_member(cursor.tag, kLengthDelimited, member,
+    if (int32_t error = check_pointer_member(cursor.tag(), kLengthDelimited, member,
                                              in.bytes_in_place() || in.memory().alloc_fn))
         return in.stop(error);
     return finish_field(in, read_bytes(in, cursor.at, member), record, run);
@@ -195,9 +215,9 @@ HandedBack decode_bytes(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun 
 HandedBack decode_message(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run,
                           DecodeRecord decode)
 {
-    if (!is_field(cursor.tag, run))
+    if (!is_field(cursor.tag(), run))
         return cursor;
-    if (wire_type_of(cursor.tag) != kLengthDelimited)
+    if (wire_type_of(cursor.tag()) != kLengthDelimited)
         return in.stop(WIRE_ERR_TYPE_MISMATCH);
     return finish_field(in, read_message(in, cursor.at, record + run.offset, decode), record, run);
 }

@@ -24,14 +24,17 @@ const uint8_t *step_over_element(Decoder &in, const uint8_t *at)
 template <WireType wire_type>
 bool count_elements(Decoder &in, const uint8_t *at, const DecodedRun &run, uint32_t *count)
 {
-    Cursor cursor(at, 0);
+    Cursor cursor(at, make_tag(run.number, wire_type));
     *count = 0;
     do {
+        if constexpr (wire_type == kVarint && !kIsSmall)
+            for (; in.is_among_small(cursor); *count += 4)
+                cursor.at += kFourSmall;
         if (!(at = step_over_element<wire_type>(in, cursor.at)))
             return false;
         ++*count;
         cursor = in.next_tag(at);
-    } while (is_field(cursor.tag, run));
+    } while (is_field(cursor.tag(), run));
     return cursor.at != nullptr;
 }
 
@@ -53,7 +56,14 @@ const uint8_t *read_list(Decoder &in, const uint8_t *at, uint8_t *member, const 
     if constexpr (wire_type == kLengthDelimited)
         memset(element, 0, static_cast<size_t>(size));
     store_block(member, element, count);
+    const uint32_t tag = make_tag(run.number, wire_type);
     for (;;) {
+        if constexpr (wire_type == kVarint && !kIsSmall)
+            for (; count > 4 && in.is_among_small({at, tag}); count -= 4) {
+                load_four_small(reinterpret_cast<uint32_t *>(element), at - 1);
+                element += 4 * sizeof(uint32_t);
+                at += kFourSmall;
+            }
         if (!(at = read_element(at, element)))
             return nullptr;
         if (--count == 0)
@@ -67,10 +77,10 @@ template <WireType wire_type, typename ReadElement>
 HandedBack decode_list(Cursor cursor, Decoder &in, uint8_t *record, DecodedRun run,
                        uint32_t element_size, ReadElement read_element)
 {
-    if (!is_field(cursor.tag, run))
+    if (!is_field(cursor.tag(), run))
         return cursor;
     uint8_t *member = record + run.offset;
-    if (int32_t error = check_pointer_member(cursor.tag, wire_type, member, in.memory().alloc_fn))
+    if (int32_t error = check_pointer_member(cursor.tag(), wire_type, member, in.memory().alloc_fn))
         return in.stop(error);
     const uint8_t *at =
         read_list<wire_type>(in, cursor.at, member, run, element_size, read_element);

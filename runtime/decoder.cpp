@@ -38,7 +38,7 @@ HandedBack Decoder::skip(Cursor cursor, LoopWatch &watch, const uint8_t *flags, 
     const uint32_t length = static_cast<uint32_t>(end_ - begin_);
     const uint32_t behind_tag = static_cast<uint32_t>(cursor.at - begin_);
     uint32_t position = behind_tag;
-    if (int32_t error = wire_skip_field(wire_type_of(cursor.tag), &position, begin_, length))
+    if (int32_t error = wire_skip_field(wire_type_of(cursor.tag()), &position, begin_, length))
         return stop(error);
     if (position < behind_tag && watch.comes_back(position, all_flags(flags, members)))
         return stop(WIRE_ERR_MALFORMED);

@@ -7,8 +7,10 @@
 #include "runtime/memory.hpp"
 #include "wire/call.hpp"
 #include "wire/fast.hpp"
+#include "wire/together.hpp"
 #include "wire/varint.hpp"
 
+#include <stddef.h>
 #include <stdint.h>
 
 namespace [[gnu::visibility("hidden")]] tarn {
@@ -16,23 +18,27 @@ namespace [[gnu::visibility("hidden")]] tarn {
 // A tag that was read, and the position behind it. Functions hand it back in registers: i386 would
 // put a structure into memory, but not a number of 64 bits.
 struct Cursor {
-    Cursor(const uint8_t *position, uint32_t tag_read) : at(position), tag(tag_read) {}
+    Cursor(const uint8_t *position, uint32_t tag) : at(position), tag_(tag) {}
+
+    uint32_t tag() const { return static_cast<uint32_t>(tag_); }
 
     const uint8_t *at;
-    uint32_t tag;
 
 #ifdef __i386__
     // cppcheck-suppress noExplicitConstructor
     Cursor(uint64_t packed)
         : at(reinterpret_cast<const uint8_t *>( // NOLINT(performance-no-int-to-ptr)
               static_cast<uintptr_t>(packed))),
-          tag(static_cast<uint32_t>(packed >> 32))
+          tag_(static_cast<uint32_t>(packed >> 32))
     {}
     operator uint64_t() const
     {
-        return uint64_t{tag} << 32 | reinterpret_cast<uintptr_t>(at);
+        return uint64_t{tag_} << 32 | reinterpret_cast<uintptr_t>(at);
     }
 #endif
+
+private:
+    Word tag_; // a whole register, or code would be spent on keeping the rest of it
 };
 
 #ifdef __i386__
@@ -127,6 +133,33 @@ public:
             return read_slowly(at, value);
         *value = found;
         return next;
+    }
+
+    // The same for values whose sizes nobody can guess: without a branch that depends on them.
+    template <typename Value>
+    TARN_INLINE const uint8_t *read_any(const uint8_t *at, Value *value)
+    {
+        Value found;
+        const uint8_t *next = at <= fast_until_ ? fast_read_long(&found, at) : nullptr;
+        if (!next || next > end_)
+            return read_slowly(at, value);
+        *value = found;
+        return next;
+    }
+
+    // Whether the tag is that of the first of four fields of two bytes each, with tags that are
+    // `step` apart.
+    bool is_first_of_four_small(const Cursor &cursor, uint32_t step) const
+    {
+        return cursor.tag() < 0x80 - 3 * step && end_ - cursor.at >= ptrdiff_t{kFourSmall - 1} &&
+               are_four_small(cursor.at - 1, cursor.tag(), step);
+    }
+
+    // Whether another one like them comes after four elements of a list.
+    bool is_among_small(const Cursor &cursor) const
+    {
+        return is_first_of_four_small(cursor, 0) && end_ - cursor.at >= ptrdiff_t{kFourSmall} &&
+               cursor.at[kFourSmall - 1] == cursor.tag();
     }
 
     // A length that the rest of the input holds.

@@ -70,9 +70,17 @@ bool Encoder::move(uint32_t offset, uint32_t length, uint32_t distance, uint32_t
 {
     if (distance > room(offset + length))
         return false;
-    // From the end, in words as long as there are some: the two places overlap.
+    // From the end, in blocks as long as there are some: the two places overlap.
     uint8_t *from = roomy_.buffer + offset;
     uint32_t left = length;
+    struct Block {
+        uint64_t words[4];
+    };
+    for (; left >= sizeof(Block); left -= uint32_t{sizeof(Block)}) {
+        Block block;
+        memcpy(&block, from + left - sizeof(Block), sizeof(Block));
+        memcpy(from + left - sizeof(Block) + distance, &block, sizeof(Block));
+    }
     for (; left >= kWordSize; left -= kWordSize) {
         const Word word = load_word(from + left - kWordSize);
         memcpy(from + left - kWordSize + distance, &word, sizeof word);

@@ -10,12 +10,6 @@ namespace tarn {
 
 namespace {
 
-uint32_t measure_text(const char *text)
-{
-    const uint32_t length = wire_strlen(text);
-    return wire_varint32_size(length) + length;
-}
-
 // Sizes of four values at a time, where the machine compares so many at once.
 #if defined(__SSE2__) || defined(__ARM_NEON)
 using Four = int32_t __attribute__((vector_size(16)));
@@ -119,30 +113,6 @@ uint32_t measure_bools(uint32_t offset, const uint8_t *members, uint32_t present
     return measure_scalars(offset, members, present, tag);
 }
 
-uint32_t measure_string(uint32_t offset, const uint8_t *member, uint32_t tag_size)
-{
-    const char *text = static_cast<const char *>(load_pointer(member));
-    return text ? offset + tag_size + measure_text(text) : offset;
-}
-
-uint32_t measure_bytes(uint32_t offset, const uint8_t *member, uint32_t flags, uint32_t tag_size)
-{
-    const uint32_t length = load_count(member);
-    offset += tag_size + wire_varint32_size(length);
-    if (flags & WIRE_FLAG_BYTES_IN_PLACE)
-        return offset;
-    // A length that would wrap around counts for nothing.
-    const uint32_t end = offset + length;
-    return end > offset ? end : offset;
-}
-
-uint32_t measure_message(uint32_t offset, uint32_t length, uint32_t present, uint32_t tag_size)
-{
-    if (!present && !length)
-        return offset;
-    return offset + tag_size + wire_varint32_size(length) + length;
-}
-
 uint32_t measure_uint32_list(uint32_t offset, const uint8_t *member, uint32_t tag_size)
 {
     const uint32_t count = load_count(member);
@@ -157,7 +127,7 @@ uint32_t measure_string_list(uint32_t offset, const uint8_t *member, uint32_t ta
         return offset;
     const uint32_t count = load_count(member);
     for (uint32_t i = 0; i < count; i++)
-        offset += tag_size + measure_text(elements[i]);
+        offset += measure_text(elements[i], tag_size);
     return offset;
 }
 

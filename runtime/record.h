@@ -54,7 +54,8 @@ typedef void (*wire_free_fn)(void *block, void *free_ctx);
  *
  *   Writes the record and returns the number of bytes of its encoding that belong in the buffer:
  *   always the full number, also when it exceeds `capacity`; what the buffer then holds is of no
- *   use. It cannot fail. With a null buffer and capacity 0 it only measures.
+ *   use. It cannot fail. With a null buffer and capacity 0 it only measures. During the call all
+ *   of the buffer is the library's; behind the encoding it holds afterwards what it held before.
  *
  *   A scalar, a byte string or a list is written when its flag is set; a string when, besides, it
  *   is not null; a list of strings likewise; an embedded record when its flag is set or when it

@@ -25,23 +25,32 @@ constexpr uint32_t tag_of(const Run &run)
 // Members of shorter runs are treated one by one, in line: what to expect of each is easier to
 // predict so. In longer runs that would be too much code; on a small machine sooner, and sooner yet
 // when the members are wider than a word. For a library as small as possible all runs are long.
-#ifdef TARN_SMALL
-constexpr bool kIsSmall = true;
-#else
-constexpr bool kIsSmall = false;
-#endif
 constexpr bool kIsSmallMachine = sizeof(void *) < sizeof(uint64_t);
-constexpr uint32_t kLongRun = kIsSmall ? 1 : kIsSmallMachine ? 4 : 5;
-constexpr uint32_t kLongRunOfPairs = kIsSmall ? 1 : 2;
+constexpr uint32_t kLongRun = kIsSmall ? 1 : kIsSmallMachine ? 3 : 5;
+constexpr uint32_t kLongWideRun = kIsSmall ? 1 : 2; // of counters, which cannot be predicted
+constexpr uint32_t kLongRunToMeasure = kIsSmall ? 1 : kIsSmallMachine ? 6 : 7;
+constexpr uint32_t kLongWideRunToMeasure = kIsSmall ? 1 : kIsSmallMachine ? 4 : 6;
 
-constexpr bool is_long(const Run &run, uint32_t long_run = kLongRun)
+constexpr bool is_long(const Run &run, uint32_t long_run, uint32_t long_wide_run)
 {
-    const uint32_t long_wide_run = kIsSmallMachine ? kLongRunOfPairs : long_run;
     return is_scalar(run.kind) &&
            run.count >= (run.kind == Kind::uint64 ? long_wide_run : long_run);
 }
 
+// Whether a function for no other number of members decodes it.
+constexpr bool is_single(const Run &run)
+{
+    return run.count == 1 && !kIsSmall;
+}
+
 // In all that follows Child is the codec of the record type behind a nested run, else void.
+
+// Where every byte of code counts, to measure is to write into no buffer.
+template <typename Child>
+constexpr MeasureRecord measure_of()
+{
+    return kIsSmall && !Child::is_foreign ? nullptr : Child::measure;
+}
 
 template <Kind kind, uint32_t tag_size>
 TARN_INLINE inline uint32_t measure_member(const uint8_t *members, uint32_t place)
@@ -75,7 +84,7 @@ TARN_INLINE inline uint32_t measure_run(uint32_t offset, const uint8_t *record,
     constexpr uint32_t tag_size = wire_varint32_size(tag);
     const uint8_t *at = record + run.offset;
     const uint32_t present = present_members<run.first_bit, run.count>(presence);
-    if constexpr (is_long(run, kIsSmall ? 1 : 5)) {
+    if constexpr (is_long(run, kLongRunToMeasure, kLongWideRunToMeasure)) {
         if constexpr (run.kind == Kind::uint32)
             return measure_uint32s(offset, reinterpret_cast<const uint32_t *>(at), present, tag);
         else if constexpr (run.kind == Kind::uint64)
@@ -119,6 +128,18 @@ TARN_INLINE inline uint32_t write_member(uint32_t offset, Encoder &out, const En
         return write_uint32<tag>(offset, out, roomy, members[place]);
 }
 
+template <Kind kind, uint32_t tag>
+TARN_INLINE inline uint8_t *store_member(uint8_t *to, const uint8_t *members, uint32_t place)
+{
+    to = store_tag(to, tag);
+    if constexpr (kind == Kind::uint64)
+        return store_varint(to, reinterpret_cast<const uint64_t *>(members)[place]);
+    else if constexpr (kind == Kind::uint32)
+        return store_varint(to, reinterpret_cast<const uint32_t *>(members)[place]);
+    else
+        return store_varint(to, uint32_t{members[place]});
+}
+
 template <Run run, uint32_t... place>
 TARN_INLINE inline uint32_t write_each(uint32_t offset, Encoder &out, const Encoder::Roomy &roomy,
                                        const uint8_t *members, const uint8_t *presence,
@@ -139,7 +160,7 @@ TARN_INLINE inline uint32_t write_run(uint32_t offset, Encoder &out, const Encod
     constexpr uint32_t tag = tag_of(run);
     const uint8_t *at = record + run.offset;
     const uint32_t present = present_members<run.first_bit, run.count>(presence);
-    if constexpr (is_long(run)) {
+    if constexpr (is_long(run, kLongRun, kLongWideRun)) {
         if constexpr (run.kind == Kind::uint32)
             return write_uint32s(offset, out, reinterpret_cast<const uint32_t *>(at), present, tag);
         else if constexpr (run.kind == Kind::uint64)
@@ -154,7 +175,7 @@ TARN_INLINE inline uint32_t write_run(uint32_t offset, Encoder &out, const Encod
         if (!present && Child::is_surely_empty(at))
             return offset;
         return write_message(offset, out, at, {tag16, 0, Child::is_plain, present != 0},
-                             Child::measure, Child::write);
+                             measure_of<Child>(), Child::write);
     } else {
         if (!present)
             return offset;
@@ -169,19 +190,38 @@ TARN_INLINE inline uint32_t write_run(uint32_t offset, Encoder &out, const Encod
         else
             return write_message_list(
                 offset, out, at, {static_cast<uint16_t>(tag), Child::size, Child::is_plain, true},
-                Child::measure, Child::write);
+                measure_of<Child>(), Child::write);
     }
+}
+
+template <Run run, uint32_t... place>
+TARN_INLINE inline uint8_t *store_each(uint8_t *to, const uint8_t *members, const uint8_t *presence,
+                                       std::integer_sequence<uint32_t, place...>)
+{
+    ((to = has_flag(presence, run.first_bit + place)
+               ? store_member<run.kind, tag_of(run) + place * kTagStep>(to, members, place)
+               : to),
+     ...);
+    return to;
+}
+
+// Numbers that are known to fit.
+template <Run run>
+TARN_INLINE inline uint8_t *store_run(uint8_t *to, const uint8_t *members, const uint8_t *presence)
+{
+    return store_each<run>(to, members, presence,
+                           std::make_integer_sequence<uint32_t, run.count>());
 }
 
 template <Run run, typename Child>
 TARN_INLINE inline Cursor decode_run(Cursor cursor, Decoder &in, uint8_t *record, uint16_t flags)
 {
     const DecodedRun decoded{run.number, run.count, run.first_bit, run.offset, flags};
-    if constexpr (run.kind == Kind::uint32 && run.count == 1)
+    if constexpr (run.kind == Kind::uint32 && is_single(run))
         return decode_uint32(cursor, in, record, decoded);
-    else if constexpr (run.kind == Kind::uint64 && run.count == 1)
+    else if constexpr (run.kind == Kind::uint64 && is_single(run))
         return decode_uint64(cursor, in, record, decoded);
-    else if constexpr (run.kind == Kind::boolean && run.count == 1)
+    else if constexpr (run.kind == Kind::boolean && is_single(run))
         return decode_bool(cursor, in, record, decoded);
     else if constexpr (run.kind == Kind::uint32)
         return decode_uint32s(cursor, in, record, decoded);

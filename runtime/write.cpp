@@ -7,145 +7,20 @@
 #include "wire/text.hpp"
 #include "wire/varint.hpp"
 
-#include <type_traits>
-
 namespace tarn {
 
 namespace {
 
-constexpr uint32_t tag_size(uint32_t tag)
-{
-    return tag < 0x80 ? 1 : 2;
-}
-
-void store_long_tag(uint8_t *to, uint32_t tag)
-{
-    store_2(to, (tag & 0x7F) | 0x80 | tag >> 7 << 8);
-}
-
-uint8_t *store_tag(uint8_t *to, uint32_t tag)
-{
-    if (tag < 0x80) {
-        *to = static_cast<uint8_t>(tag);
-        return to + 1;
-    }
-    store_long_tag(to, tag);
-    return to + 2;
-}
-
-// What a scalar is on the wire, and how long its field can be.
-template <typename Member>
-using Scalar = std::conditional_t<sizeof(Member) == sizeof(uint64_t), uint64_t, uint32_t>;
-
-template <typename Member>
-constexpr uint32_t kLongestField = 2 + wire_varint_size(~Scalar<Member>{0});
-
-uint32_t put_varint(uint32_t offset, Encoder &out, uint32_t value)
-{
-    return out.put_varint32(offset, value);
-}
-
-uint32_t put_varint(uint32_t offset, Encoder &out, uint64_t value)
-{
-    return out.put_varint64(offset, value);
-}
-
-// Any field anywhere: whole where it fits, else byte by byte as far as it does.
-template <typename Value>
-uint32_t put_field(uint32_t offset, Encoder &out, Value value, uint32_t tag)
-{
-    if (out.room(offset) >= wire_varint_size(value, tag_size(tag)))
-        return out.offset_of(store_varint(store_tag(out.at(offset), tag), value));
-    if (out.is_trying())
-        return out.give_up();
-    return put_varint(out.put_tag(offset, tag), out, value);
-}
-
-// The same, quicker where there is room for any.
-template <typename Value>
-uint32_t write_scalar(uint32_t offset, Encoder &out, Value value, uint32_t tag)
-{
-    if (out.is_roomy(offset))
-        return out.offset_of(store_varint(store_tag(out.at(offset), tag), value));
-    return put_field(offset, out, value, tag);
-}
-
-// Writes the present ones of four members, all of which are known to fit, each by code of its own:
-// what comes where is easier to predict so.
-template <uint32_t tag_bytes, typename Member>
-uint8_t *store_four(uint8_t *to, const Member *members, uint32_t present, uint32_t tag)
-{
-    const auto store = [&](uint32_t place) {
-        if (!(present & 1u << place))
-            return;
-        if constexpr (tag_bytes == 1)
-            *to = static_cast<uint8_t>(tag + place * kTagStep);
-        else
-            store_long_tag(to, tag + place * kTagStep);
-        to = store_varint(to + tag_bytes, Scalar<Member>{members[place]});
-    };
-    store(0);
-    store(1);
-    store(2);
-    store(3);
-    return to;
-}
-
-template <typename Member>
-uint8_t *store_four(uint8_t *to, const Member *members, uint32_t present, uint32_t tag)
-{
-    // On a small machine that is too much code for wide members.
-    if constexpr (sizeof(Member) <= sizeof(Word)) {
-        if (tag < 0x80 - 3 * kTagStep)
-            return store_four<1>(to, members, present, tag);
-        if (tag >= 0x80)
-            return store_four<2>(to, members, present, tag);
-    }
-    for (present &= 0xF; present; present >>= 1, members++, tag += kTagStep)
-        if (present & 1)
-            to = store_varint(store_tag(to, tag), Scalar<Member>{*members});
-    return to;
-}
-
-// Writes elements of a list, all of which are known to fit.
-uint8_t *store_list(uint8_t *to, const uint32_t *elements, uint32_t count, uint32_t tag)
-{
-    if (tag < 0x80) {
-        for (uint32_t i = 0; i < count; i++) {
-            *to = static_cast<uint8_t>(tag);
-            to = store_varint(to + 1, elements[i]);
-        }
-        return to;
-    }
-    for (uint32_t i = 0; i < count; i++)
-        to = store_varint(store_tag(to, tag), elements[i]);
-    return to;
-}
-
-// One body for the three kinds of scalars: they differ in the width of the member.
-template <typename Member>
-uint32_t write_scalars(uint32_t offset, Encoder &out, const Member *members, uint32_t present,
-                       uint32_t tag)
-{
-    constexpr uint32_t kMost = 4 * kLongestField<Member>;
-    while (present && out.room(offset) >= kMost) {
-        offset = out.offset_of(store_four(out.at(offset), members, present, tag));
-        present >>= 4;
-        members += 4;
-        tag += 4 * kTagStep;
-    }
-    for (; present; present >>= 1, members++, tag += kTagStep)
-        if (present & 1)
-            offset = put_field(offset, out, Scalar<Member>{*members}, tag);
-    return offset;
-}
+// A tag and a length.
+constexpr uint32_t kLongestPrefix = 2 + 5;
 
 uint32_t put_text(uint32_t offset, Encoder &out, const char *text, uint32_t tag)
 {
     const uint32_t length = wire_strlen(text);
-    if (!out.is_sure_to_fit(offset, kLongestField<uint32_t> + uint64_t{length}))
+    if (length >= 0x80 || !out.is_sure_to_fit(offset, kLongestPrefix + length))
         return out.put_text(out.put_tag(offset, tag), text, length);
-    uint8_t *to = store_varint(store_tag(out.at(offset), tag), length);
+    uint8_t *to = store_tag(out.at(offset), tag);
+    *to++ = static_cast<uint8_t>(length);
     copy_short(to, text, length);
     return out.offset_of(to + length);
 }
@@ -172,12 +47,14 @@ uint32_t write_as_measured(uint32_t offset, Encoder &out, const uint8_t *record,
 [[gnu::noinline]] uint32_t write_measured(uint32_t offset, Encoder &out, const uint8_t *record,
                                           NestedRun run, MeasureRecord measure, WriteRecord write)
 {
-    const uint32_t length = measure(record, out.flags());
+    const uint32_t length = measure_by(measure, write, record, out.flags());
     if (!run.present && !length)
         return offset;
     offset = put_prefix(offset, out, run.tag, length);
     if (out.is_trying())
         return write_as_measured(offset, out, record, length, write);
+    if (!out.wants_segments() && out.room(offset) == 0)
+        return offset + length;
     Encoder inner = out.nested(offset);
     inner.finish(write(0, inner, record));
     out.count_segments(inner.segment_count());
@@ -228,9 +105,8 @@ inline uint32_t write_nested(uint32_t offset, Encoder &out, const uint8_t *recor
 
 } // namespace
 
-uint32_t encode_record(const void *record, uint8_t *buffer, uint32_t capacity,
-                       WireSegment *segments, uint32_t *segment_count, uint32_t flags,
-                       WriteRecord write)
+uint32_t encode_record(WriteRecord write, const void *record, uint8_t *buffer, uint32_t capacity,
+                       WireSegment *segments, uint32_t *segment_count, uint32_t flags)
 {
     Encoder out(buffer, capacity, segments, segment_count, flags);
     const uint32_t length = write(0, out, record);
@@ -239,35 +115,6 @@ uint32_t encode_record(const void *record, uint8_t *buffer, uint32_t capacity,
         *segment_count = out.segment_count();
     }
     return length;
-}
-
-uint32_t write_uint32s(uint32_t offset, Encoder &out, const uint32_t *members, uint32_t present,
-                       uint32_t tag)
-{
-    return write_scalars(offset, out, members, present, tag);
-}
-
-uint32_t write_uint64s(uint32_t offset, Encoder &out, const uint64_t *members, uint32_t present,
-                       uint32_t tag)
-{
-    return write_scalars(offset, out, members, present, tag);
-}
-
-// The byte goes out as it is: 2 and more are possible when the caller has put them there.
-uint32_t write_bools(uint32_t offset, Encoder &out, const uint8_t *members, uint32_t present,
-                     uint32_t tag)
-{
-    return write_scalars(offset, out, members, present, tag);
-}
-
-uint32_t put_uint32(uint32_t offset, Encoder &out, uint32_t value, uint32_t tag)
-{
-    return write_scalar(offset, out, value, tag);
-}
-
-uint32_t put_uint64(uint32_t offset, Encoder &out, const uint64_t *value, uint32_t tag)
-{
-    return write_scalar(offset, out, *value, tag);
 }
 
 uint32_t write_string(uint32_t offset, Encoder &out, const uint8_t *member, uint32_t tag)
@@ -282,26 +129,6 @@ uint32_t write_bytes(uint32_t offset, Encoder &out, const uint8_t *member, uint3
 {
     return out.put_bytes(out.put_tag(offset, tag),
                          static_cast<const uint8_t *>(load_pointer(member)), load_count(member));
-}
-
-uint32_t write_uint32_list(uint32_t offset, Encoder &out, const uint8_t *member, uint32_t tag)
-{
-    uint32_t count = load_count(member);
-    const uint32_t *elements = static_cast<const uint32_t *>(load_pointer(member));
-    while (count && !out.has_given_up()) {
-        // As many as are sure to fit, and where that is none, the next.
-        const uint32_t fitting = out.room(offset) / kLongestField<uint32_t>;
-        const uint32_t roomy = fitting < count ? fitting : count;
-        if (roomy == 0) {
-            offset = put_field(offset, out, *elements++, tag);
-            count--;
-            continue;
-        }
-        offset = out.offset_of(store_list(out.at(offset), elements, roomy, tag));
-        elements += roomy;
-        count -= roomy;
-    }
-    return offset;
 }
 
 uint32_t write_string_list(uint32_t offset, Encoder &out, const uint8_t *member, uint32_t tag)

@@ -14,10 +14,32 @@ namespace [[gnu::visibility("hidden")]] tarn {
 // Writes a whole record of some type.
 using WriteRecord = TARN_CALL uint32_t (*)(uint32_t offset, Encoder &out, const void *record);
 
-// The encoding of a whole record that is not only measured.
-uint32_t encode_record(const void *record, uint8_t *buffer, uint32_t capacity,
-                       WireSegment *segments, uint32_t *segment_count, uint32_t flags,
-                       WriteRecord write);
+// The encoding of a whole record.
+uint32_t encode_record(WriteRecord write, const void *record, uint8_t *buffer, uint32_t capacity,
+                       WireSegment *segments, uint32_t *segment_count, uint32_t flags);
+
+// The same, or only its size, if that is what is asked for and there is a function for it.
+[[gnu::noinline]] TARN_REGISTERS(2) inline uint32_t
+    measure_or_encode_record(WriteRecord write, MeasureRecord measure, const void *record,
+                             uint8_t *buffer, uint32_t capacity, WireSegment *segments,
+                             uint32_t *segment_count, uint32_t flags)
+{
+    if (measure && capacity == 0 && !segment_count)
+        return measure(record, flags);
+    return encode_record(write, record, buffer, capacity, segments, segment_count, flags);
+}
+
+// In a library as small as possible there is no function for it: to measure is to write nowhere.
+inline uint32_t measure_by(MeasureRecord measure, WriteRecord write, const void *record,
+                           uint32_t flags)
+{
+    if constexpr (kIsSmall)
+        if (!measure) {
+            Encoder nowhere(nullptr, 0, nullptr, nullptr, flags);
+            return write(0, nowhere, record);
+        }
+    return measure(record, flags);
+}
 
 // How a nested record is written. It fits in a register.
 struct NestedRun {

@@ -91,6 +91,29 @@ inline void store_4(uint8_t *to, uint64_t bytes)
     memcpy(to, &low, sizeof low);
 }
 
+// Tags of records take one byte or two.
+constexpr uint32_t tag_size(uint32_t tag)
+{
+    return tag < 0x80 ? 1 : 2;
+}
+
+// As it is stored, the first byte below the second.
+constexpr uint32_t tag_bytes(uint32_t tag)
+{
+    const uint32_t upper = tag & ~0x7Fu;
+    return tag + upper + (upper ? 0x80 : 0);
+}
+
+inline uint8_t *store_tag(uint8_t *to, uint32_t tag)
+{
+    if (tag < 0x80) {
+        *to = static_cast<uint8_t>(tag);
+        return to + 1;
+    }
+    store_2(to, tag_bytes(tag));
+    return to + 2;
+}
+
 // Gives every seven bits a byte: the same steps the other way round.
 constexpr uint32_t spread_sevens(uint32_t value)
 {

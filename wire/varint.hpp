@@ -46,8 +46,18 @@ TARN_INLINE constexpr uint32_t wire_varint32_size(uint32_t value, uint32_t behin
 
 TARN_INLINE constexpr uint32_t wire_varint64_size(uint64_t value, uint32_t behind = 0)
 {
-    const uint32_t highest_bit = 63 ^ static_cast<uint32_t>(__builtin_clzll(value | 1));
-    return (highest_bit * 9 + 73 + behind * 64) / 64;
+    if constexpr (sizeof(uintptr_t) == sizeof(value)) {
+        const uint32_t highest_bit = 63 ^ static_cast<uint32_t>(__builtin_clzll(value | 1));
+        return (highest_bit * 9 + 73 + behind * 64) / 64;
+    } else { // without a branch: in which half it is cannot be guessed
+        const uint32_t upper = static_cast<uint32_t>(value >> 32);
+        const uint32_t lower = static_cast<uint32_t>(value) | 1;
+        const uint32_t is_upper = 0 - static_cast<uint32_t>(upper != 0);
+        const uint32_t half = lower ^ ((lower ^ upper) & is_upper);
+        const uint32_t highest_bit =
+            (31 ^ static_cast<uint32_t>(__builtin_clz(half))) + (is_upper & 32);
+        return (highest_bit * 9 + 73 + behind * 64) / 64;
+    }
 }
 
 // The same by the width of the value; narrower ones count as 32 bits, as on the wire.

@@ -96,7 +96,7 @@ TEST(a_second_occurrence, is_tested_before_memory)
         tarn::Decoder in(input, 1, {nullptr, nullptr}, 0);
         const tarn::Cursor behind = decode({input, tag}, in, reinterpret_cast<uint8_t *>(&record),
                                            {1, 1, 0, 0, sizeof record.member});
-        EXPECT_EQ(behind.tag, tarn::kStop);
+        EXPECT_EQ(behind.tag(), tarn::kStop);
         EXPECT_EQ(in.result(), WIRE_ERR_MALFORMED);
         EXPECT_EQ(record.flags, 0);
     }

@@ -29,16 +29,16 @@ TEST(decoder, hands_out_tags_until_the_end)
     const Bytes input = {0x08, 0x80, 0x01, 0x88, 0x80, 0x00};
     Decoder in = decoder(input);
     const Cursor first = in.first_tag();
-    EXPECT_EQ(first.tag, 0x08u);
+    EXPECT_EQ(first.tag(), 0x08u);
     EXPECT_EQ(first.at, input.data() + 1);
     const Cursor second = in.next_tag(first.at);
-    EXPECT_EQ(second.tag, 0x80u);
+    EXPECT_EQ(second.tag(), 0x80u);
     EXPECT_FALSE(in.at_end(second.at));
     const Cursor third = in.next_tag(second.at);
-    EXPECT_EQ(third.tag, 0x08u);
+    EXPECT_EQ(third.tag(), 0x08u);
     EXPECT_EQ(third.at, input.data() + 6);
     EXPECT_TRUE(in.at_end(third.at));
-    EXPECT_EQ(in.next_tag(third.at).tag, kStop);
+    EXPECT_EQ(in.next_tag(third.at).tag(), kStop);
     EXPECT_EQ(in.result(), WIRE_OK);
 }
 
@@ -46,11 +46,11 @@ TEST(decoder, stops_where_no_tag_can_be_read)
 {
     for (const Bytes &input : {Bytes{0x80}, Bytes{0x80, 0x80}, Bytes{0x80, 0x80, 0x80, 0xFF}}) {
         Decoder in = decoder(input);
-        EXPECT_EQ(Cursor(in.first_tag()).tag, kStop);
+        EXPECT_EQ(Cursor(in.first_tag()).tag(), kStop);
         EXPECT_EQ(in.result(), WIRE_ERR_MALFORMED);
     }
     Decoder empty = decoder({});
-    EXPECT_EQ(Cursor(empty.first_tag()).tag, kStop);
+    EXPECT_EQ(Cursor(empty.first_tag()).tag(), kStop);
     EXPECT_EQ(empty.result(), WIRE_OK);
 }
 
@@ -62,7 +62,7 @@ TEST(decoder, does_not_take_a_tag_in_the_message_for_the_end)
                                Bytes{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x80, 0x00, 0x08, 7}}) {
         Decoder in = decoder(input);
         const Cursor cursor = in.first_tag();
-        EXPECT_EQ(cursor.tag, kNobodys);
+        EXPECT_EQ(cursor.tag(), kNobodys);
         EXPECT_EQ(cursor.at, input.data() + input.size() - 2);
         EXPECT_EQ(in.result(), WIRE_OK);
         EXPECT_EQ(decode<Every>(input), WIRE_ERR_WIRE_TYPE);
@@ -80,7 +80,7 @@ TEST(decoder, does_not_take_a_tag_in_the_message_for_the_end)
 TEST(decoder, ends_with_the_result_it_is_told)
 {
     Decoder in = decoder({});
-    EXPECT_EQ(in.stop(WIRE_ERR_NO_MEMORY).tag, kStop);
+    EXPECT_EQ(in.stop(WIRE_ERR_NO_MEMORY).tag(), kStop);
     EXPECT_EQ(in.result(), WIRE_ERR_NO_MEMORY);
     EXPECT_EQ(in.fail(WIRE_ERR_MALFORMED), nullptr);
     EXPECT_EQ(in.result(), WIRE_ERR_MALFORMED);
@@ -122,7 +122,7 @@ TEST(decoder, enters_a_part_of_its_input_and_leaves_it_again)
     const Decoder::Extent outer = in.enter(input.data() + 1, 3);
     EXPECT_EQ(in.extent().begin, input.data() + 1);
     EXPECT_EQ(in.extent().end, input.data() + 4);
-    EXPECT_EQ(Cursor(in.first_tag()).tag, 2u);
+    EXPECT_EQ(Cursor(in.first_tag()).tag(), 2u);
     EXPECT_TRUE(in.at_end(input.data() + 4));
     EXPECT_FALSE(in.at_end(input.data() + 3));
     uint32_t value = 77;

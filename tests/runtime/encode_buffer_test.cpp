@@ -46,6 +46,24 @@ void expect_cut(const Record &record, uint32_t flags, const Bytes &full,
     }
 }
 
+// In the place of a record: how often somebody wanted something of it.
+struct CallsOf {
+    uint32_t measure;
+    uint32_t write;
+};
+
+TARN_CALL uint32_t count_measure(const void *calls, uint32_t)
+{
+    const_cast<CallsOf *>(static_cast<const CallsOf *>(calls))->measure++;
+    return 3;
+}
+
+TARN_CALL uint32_t count_write(uint32_t offset, tarn::Encoder &, const void *calls)
+{
+    const_cast<CallsOf *>(static_cast<const CallsOf *>(calls))->write++;
+    return offset + 3;
+}
+
 } // namespace
 
 TEST(a_short_buffer, gets_what_fits_of_every_kind)
@@ -97,4 +115,23 @@ TEST(measuring, needs_no_buffer_and_gives_the_length)
     EXPECT_EQ(measure(SampleParcel().record), 22u);
     EXPECT_EQ(measure(SampleParcel().record, WIRE_FLAG_BYTES_IN_PLACE), 18u);
     EXPECT_EQ(measure(Every{}), 0u);
+}
+
+// Whoever has a function that measures has it called for that, and for nothing else.
+TEST(encoding_a_record, measures_where_nothing_else_is_asked_for)
+{
+    CallsOf calls = {};
+    uint8_t buffer[4] = {};
+    uint32_t count = 0;
+    const auto encode = [&](tarn::MeasureRecord by, uint32_t capacity, uint32_t *segment_count) {
+        return tarn::measure_or_encode_record(count_write, by, &calls, buffer, capacity, nullptr,
+                                              segment_count, 0);
+    };
+    EXPECT_EQ(encode(count_measure, 0, nullptr), 3u);
+    EXPECT_TRUE(calls.measure == 1 && calls.write == 0);
+    EXPECT_EQ(encode(count_measure, 4, nullptr), 3u);
+    EXPECT_EQ(encode(count_measure, 0, &count), 3u);
+    EXPECT_EQ(count, 1u);
+    EXPECT_EQ(encode(nullptr, 0, nullptr), 3u);
+    EXPECT_TRUE(calls.measure == 1 && calls.write == 3);
 }

@@ -59,7 +59,7 @@ TEST(a_run_of_numbers, is_decoded_to_its_own_members_and_flags)
     // Fields 30 and 33; field 34 is handed on.
     const Cursor next = decode_run<kRun, void>(
         {input, 0xF0}, in, reinterpret_cast<uint8_t *>(&record), offsetof(Record, flags));
-    EXPECT_EQ(next.tag, 0x110u);
+    EXPECT_EQ(next.tag(), 0x110u);
     EXPECT_EQ(next.at, input + sizeof input);
     EXPECT_EQ(record.members[0], 5u);
     EXPECT_EQ(record.members[3], 6u);
@@ -76,7 +76,7 @@ TEST(a_run_of_numbers, hands_on_a_tag_that_is_not_its_own)
     for (uint32_t tag : {0x00u, 0x08u, 0xE8u, 0x110u, 0xFFFFFFF8u, kStop}) {
         const Cursor cursor = decode_run<kRun, void>(
             {input, tag}, in, reinterpret_cast<uint8_t *>(&record), offsetof(Record, flags));
-        EXPECT_EQ(cursor.tag, tag);
+        EXPECT_EQ(cursor.tag(), tag);
         EXPECT_EQ(cursor.at, input);
     }
     EXPECT_EQ(record.flags[0] | record.flags[1], 0);

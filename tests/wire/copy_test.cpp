@@ -37,3 +37,15 @@ TEST(copying, takes_every_byte_and_touches_no_other)
         EXPECT_EQ(target, join({margin, source, margin})) << "length " << length;
     }
 }
+
+// Both are blocks of just that length: not a byte behind them is looked at.
+TEST(copying, stays_inside_both_blocks)
+{
+    for (uint32_t length = 0; length <= 200; length++) {
+        const Bytes source = counted(length);
+        Bytes target = Bytes(length, 0);
+        target.reserve(1);
+        copy_short(target.data(), source.data(), length);
+        EXPECT_EQ(target, source) << "length " << length;
+    }
+}

@@ -144,3 +144,16 @@ TEST(storing_a_long_varint, at_once_or_word_by_word_is_the_same)
             expect_stored(static_cast<uint32_t>(value), store_long_varint_by_words<uint32_t>);
     }
 }
+
+// The largest that two bytes hold is far beyond those of records.
+TEST(storing_a_tag, takes_one_byte_or_two_and_no_other)
+{
+    for (uint32_t tag = 0; tag < 1u << 14; tag++) {
+        const Bytes plain = written_plainly(tag);
+        const uint32_t bytes = plain.size() == 1 ? plain[0] : plain[0] | plain[1] * 0x100u;
+        ASSERT_EQ(tag_size(tag), plain.size()) << tag;
+        ASSERT_EQ(tag_bytes(tag), bytes) << tag;
+        ASSERT_NO_FATAL_FAILURE(expect_stored(tag, store_tag));
+    }
+    EXPECT_LT(make_tag(UINT8_MAX, kFixed32), 1u << 14);
+}

@@ -208,3 +208,19 @@ TEST(the_size_of_a_varint, grows_by_one_every_seven_bits)
             << bits << " bits";
     }
 }
+
+TEST(the_size_of_a_varint, is_that_of_its_width)
+{
+    EXPECT_EQ(wire_varint_size(uint8_t{0x7F}), 1u);
+    EXPECT_EQ(wire_varint_size(uint8_t{0x80}, 2), 4u);
+    EXPECT_EQ(wire_varint_size(UINT32_MAX, 1), 6u);
+    EXPECT_EQ(wire_varint_size(uint64_t{UINT32_MAX}), 5u);
+    EXPECT_EQ(wire_varint_size(UINT64_MAX, 2), 12u);
+    // Both sides of every length, behind as many bytes as a tag takes.
+    for (uint32_t size = 1; size < 10; size++) {
+        for (uint32_t behind = 0; behind <= 2; behind++) {
+            EXPECT_EQ(wire_varint64_size((uint64_t{1} << 7 * size) - 1, behind), behind + size);
+            EXPECT_EQ(wire_varint64_size(uint64_t{1} << 7 * size, behind), behind + size + 1);
+        }
+    }
+}
