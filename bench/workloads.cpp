@@ -9,36 +9,20 @@ namespace bench {
 
 namespace {
 
-// Functions that differ in the type behind a pointer are called alike on all targets.
-template <typename Erased, typename Function>
-Erased erase(Function *function)
-{
-    return reinterpret_cast<Erased>(function);
-}
-
-template <typename Record, typename Encode, typename Decode, typename Duplicate, typename Release>
-Workload make_workload(Maker &make, uint32_t count, Workload workload, Encode encode, Decode decode,
-                       Duplicate duplicate, Release release)
+template <typename Record>
+Workload filled(Maker &make, uint32_t count, Workload workload)
 {
     for (uint32_t i = 0; i < count; i++) {
         Record *record = make.record<Record>();
         fill(make, *record);
         workload.variants.push_back(record);
     }
-    workload.record_size = sizeof(Record);
-    workload.encode = erase<decltype(Workload::encode)>(encode);
-    workload.decode = erase<decltype(Workload::decode)>(decode);
-    workload.duplicate = erase<decltype(Workload::duplicate)>(duplicate);
-    workload.release = erase<decltype(Workload::release)>(release);
     return workload;
 }
 
 // Row by row: the record type, how many variants, what it stands for, whether it is extra.
 #define BENCH_WORKLOAD(type, count, content, extra)                                                \
-    make_workload<tarn_ethsw_mgmt_##type>(                                                         \
-        make, count, {#type, #type, content, extra}, tarn_ethsw_mgmt_##type##_encode_ext,          \
-        tarn_ethsw_mgmt_##type##_decode_ext, tarn_ethsw_mgmt_##type##_duplicate,                   \
-        tarn_ethsw_mgmt_##type##_free_ext)
+    BENCH_OF_TYPE(type, filled<tarn_ethsw_mgmt_##type>(make, count, {#type, #type, content, extra}))
 
 // The same records, with byte strings that stay where they are.
 Workload in_place(const std::vector<Workload> &workloads, std::string_view name)

@@ -37,6 +37,31 @@ struct Workload {
     void (*release)(void *record, wire_free_fn free_fn, void *free_ctx, uint32_t flags) = nullptr;
 };
 
+// Functions that differ in the type behind a pointer are called alike on all targets.
+template <typename Erased, typename Function>
+Erased erase(Function *function)
+{
+    return reinterpret_cast<Erased>(function);
+}
+
+// Gives a workload the operations of its record type.
+template <typename Record, typename Encode, typename Decode, typename Duplicate, typename Release>
+Workload of_type(Workload workload, Encode encode, Decode decode, Duplicate duplicate,
+                 Release release)
+{
+    workload.record_size = sizeof(Record);
+    workload.encode = erase<decltype(Workload::encode)>(encode);
+    workload.decode = erase<decltype(Workload::decode)>(decode);
+    workload.duplicate = erase<decltype(Workload::duplicate)>(duplicate);
+    workload.release = erase<decltype(Workload::release)>(release);
+    return workload;
+}
+
+#define BENCH_OF_TYPE(type, ...)                                                                   \
+    of_type<tarn_ethsw_mgmt_##type>(                                                               \
+        __VA_ARGS__, tarn_ethsw_mgmt_##type##_encode_ext, tarn_ethsw_mgmt_##type##_decode_ext,     \
+        tarn_ethsw_mgmt_##type##_duplicate, tarn_ethsw_mgmt_##type##_free_ext)
+
 // Made when first asked for; everything stays until the program ends.
 const std::vector<Workload> &workloads();
 

@@ -21,6 +21,7 @@ template <typename Record, auto encode_ext, auto decode_ext, auto duplicate_, au
 struct ForeignCodec {
     static constexpr uint32_t size = sizeof(Record);
     static constexpr bool is_foreign = true;
+    static constexpr bool has_foreign = true;
     static constexpr bool is_plain = true; // both types hold nothing but numbers
     static constexpr bool owns_memory = true;
     static constexpr bool defaults_are_zero = false; // or nobody knows here

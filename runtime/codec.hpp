@@ -45,15 +45,17 @@ class Codec {
 public:
     static constexpr uint32_t size = layout.size;
     static constexpr bool is_foreign = false;
+    static constexpr bool has_foreign = (Children::has_foreign || ...);
     // Nothing but numbers all the way down.
     static constexpr bool is_plain = layout.has_only_numbers() && (Children::is_plain && ...);
     // Whether a record may have blocks to release.
     static constexpr bool owns_memory = layout.has_pointers() || (Children::owns_memory || ...);
     static constexpr bool defaults_are_zero = (Children::defaults_are_zero && ...);
-    // So little that to prepare for writing would take longer than to write.
+    // One number or two, neither of them wide: so little that to prepare for reading or writing
+    // would take longer than to do it.
     static constexpr bool is_tiny = !kIsSmall && is_plain && !owns_memory &&
                                     sizeof...(Children) == 0 && layout.members >= 1 &&
-                                    layout.members <= 2;
+                                    layout.members <= 2 && layout.size < 2 * sizeof(uint64_t);
 
     // Without its flags nothing is written of a record, but for what is embedded in it.
     TARN_INLINE static bool is_surely_empty(const void *record)
@@ -108,19 +110,18 @@ public:
     {
         if constexpr (is_tiny) {
             const uint32_t length = measure_here(record, flags);
-            if (length <= capacity && !segment_count)
+            if (!segment_count && length <= capacity)
                 store(buffer, record);
             if (!segment_count && (length <= capacity || capacity == 0))
                 return length;
-        } else if (!kIsSmall && !kIsSmallMachine && capacity == 0 && !segment_count) {
+        } else if constexpr (kIsSmallMachine) {
+            // Its arguments stay where they are, on the stack, if they are only handed on.
+            return measure_or_encode<encode_whole>(write, measure_of<Codec>(), record, buffer,
+                                                   capacity, segments, segment_count, flags);
+        } else if (!kIsSmall && !segment_count && capacity == 0) {
             return measure(record, flags);
         }
-        if constexpr (kIsSmallMachine &&
-                      !is_tiny) // whose arguments can stay where they are, on the stack
-            return measure_or_encode_record(write, measure_of<Codec>(), record, buffer, capacity,
-                                            segments, segment_count, flags);
-        else
-            return encode_record(write, record, buffer, capacity, segments, segment_count, flags);
+        return encode_whole(write, record, buffer, capacity, segments, segment_count, flags);
     }
 
     static void initialise(void *record)
@@ -138,6 +139,9 @@ public:
     [[gnu::noinline]] static int32_t decode(void *record, const uint8_t *buf, uint32_t len,
                                             wire_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
     {
+        if constexpr (is_tiny)
+            if (load_small(record, buf, len))
+                return WIRE_OK;
         if constexpr (kIsSmall) {
             return decode_message_as(decode_anew, record, buf, len, alloc_fn, alloc_ctx, flags);
         } else {
@@ -146,6 +150,23 @@ public:
             decode_fields(in, record);
             return in.result();
         }
+    }
+
+    // Loads a tiny record from a message that has each field once, in order and in two bytes.
+    TARN_INLINE static bool load_small(void *record, const uint8_t *buf, uint32_t len)
+    {
+        if (len != layout.members * kOneSmall)
+            return false;
+        bool small = true;
+        for_each_run([&]<Run run, typename Child>()
+                         TARN_INLINE { small &= is_small_run<run>(buf); });
+        if (!small)
+            return false;
+        uint8_t *bytes = static_cast<uint8_t *>(record);
+        for_each_run([&]<Run run, typename Child>()
+                         TARN_INLINE { load_small_run<run>(bytes + run.offset, buf); });
+        set_all_flags<layout.members>(bytes + layout.flags);
+        return true;
     }
 
     // Decodes into a record that has its defaults already.
@@ -242,6 +263,8 @@ public:
     }
 
 private:
+    static constexpr EncodeRecord encode_whole = has_foreign ? encode_in_place : encode_record;
+
     using Runs = std::make_integer_sequence<uint32_t, layout.run_count>;
     using Spans = std::make_integer_sequence<uint32_t, layout.span_count>;
 

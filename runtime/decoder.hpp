@@ -106,7 +106,7 @@ public:
         if (at >= end_)
             return {at, kStop};
         const uint32_t tag = at[0];
-        if (tag < 0x80)
+        if (tag < 0x80) [[likely]]
             return {at + 1, tag};
         if (end_ - at >= 2 && at[1] < 0x80)
             return {at + 2, (tag & 0x7F) | uint32_t{at[1]} << 7};
@@ -119,7 +119,7 @@ public:
         if (at >= end_)
             return fail(WIRE_ERR_MALFORMED);
         const uint32_t first = at[0];
-        if (first < 0x80) {
+        if (first < 0x80) [[likely]] {
             *value = first;
             return at + 1;
         }
@@ -127,12 +127,7 @@ public:
             *value = (first & 0x7F) | uint32_t{at[1]} << 7;
             return at + 2;
         }
-        Value found;
-        const uint8_t *next = at <= fast_until_ ? fast_read_long(&found, at) : nullptr;
-        if (!next || next > end_)
-            return read_slowly(at, value);
-        *value = found;
-        return next;
+        return read_any(at, value);
     }
 
     // The same for values whose sizes nobody can guess: without a branch that depends on them.

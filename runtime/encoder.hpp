@@ -16,8 +16,8 @@ public:
     // A null `segment_count` means that nobody wants the pieces.
     Encoder(uint8_t *buffer, uint32_t capacity, WireSegment *segments,
             const uint32_t *segment_count, uint32_t flags)
-        : roomy_{buffer, roomy_until(capacity)}, capacity_(capacity),
-          wants_segments_(segment_count != nullptr), flags_(flags), segments_(segments),
+        : roomy_{buffer, roomy_until(capacity)}, capacity_(capacity), flags_(flags),
+          wants_segments_(segment_count != nullptr), segments_(segments),
           segment_capacity_(segments && segment_count ? *segment_count : 0)
     {}
 
@@ -133,8 +133,8 @@ private:
     uint32_t capacity_;
     uint32_t growth_ = 0; // by how much what is tried may still move
     bool given_up_ = false;
-    bool wants_segments_;
     uint32_t flags_;
+    bool wants_segments_; // beside the other one, both would be set from a constant, which is data
     WireSegment *segments_;
     uint32_t segment_capacity_;
     uint32_t segment_count_ = 0;

@@ -86,6 +86,14 @@ void clear_flags(uint8_t *flags)
 }
 
 template <uint32_t members>
+TARN_INLINE inline void set_all_flags(uint8_t *flags)
+{
+    constexpr uint32_t kLast = (members - 1) / 8;
+    memset(flags, 0xFF, kLast);
+    flags[kLast] = static_cast<uint8_t>(flags[kLast] | last_flags_mask(members));
+}
+
+template <uint32_t members>
 void copy_flags(uint8_t *to, const uint8_t *from)
 {
     constexpr uint32_t kLast = (members - 1) / 8;

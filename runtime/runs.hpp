@@ -128,16 +128,17 @@ TARN_INLINE inline uint32_t write_member(uint32_t offset, Encoder &out, const En
         return write_uint32<tag>(offset, out, roomy, members[place]);
 }
 
+// Of up to 32 bits.
 template <Kind kind, uint32_t tag>
 TARN_INLINE inline uint8_t *store_member(uint8_t *to, const uint8_t *members, uint32_t place)
 {
+    const uint32_t value =
+        kind == Kind::uint32 ? reinterpret_cast<const uint32_t *>(members)[place] : members[place];
     to = store_tag(to, tag);
-    if constexpr (kind == Kind::uint64)
-        return store_varint(to, reinterpret_cast<const uint64_t *>(members)[place]);
-    else if constexpr (kind == Kind::uint32)
-        return store_varint(to, reinterpret_cast<const uint32_t *>(members)[place]);
-    else
-        return store_varint(to, uint32_t{members[place]});
+    if (value >= 0x80)
+        return store_varint(to, value);
+    *to = static_cast<uint8_t>(value);
+    return to + 1;
 }
 
 template <Run run, uint32_t... place>
@@ -205,12 +206,37 @@ TARN_INLINE inline uint8_t *store_each(uint8_t *to, const uint8_t *members, cons
     return to;
 }
 
-// Numbers that are known to fit.
+// Numbers of up to 32 bits that are known to fit.
 template <Run run>
 TARN_INLINE inline uint8_t *store_run(uint8_t *to, const uint8_t *members, const uint8_t *presence)
 {
     return store_each<run>(to, members, presence,
                            std::make_integer_sequence<uint32_t, run.count>());
+}
+
+// In a message of two bytes for each member, in their order: whether those of a run are there.
+template <Run run>
+TARN_INLINE inline bool is_small_run(const uint8_t *message)
+{
+    const uint8_t *at = message + size_t{kOneSmall} * run.first_bit;
+    uint32_t tag = tag_of(run);
+    bool small = true;
+    for (uint32_t i = 0; i < run.count; i++, at += kOneSmall, tag += kTagStep)
+        small &= is_small(at, tag);
+    return small;
+}
+
+template <Run run>
+TARN_INLINE inline void load_small_run(uint8_t *members, const uint8_t *message)
+{
+    const uint8_t *at = message + size_t{kOneSmall} * run.first_bit;
+    for (uint32_t i = 0; i < run.count; i++, at += kOneSmall) {
+        const uint8_t value = at[1];
+        if constexpr (run.kind == Kind::boolean)
+            members[i] = value != 0;
+        else
+            reinterpret_cast<uint32_t *>(members)[i] = value;
+    }
 }
 
 template <Run run, typename Child>

@@ -7,6 +7,8 @@
 #include "wire/text.hpp"
 #include "wire/varint.hpp"
 
+#include <string.h>
+
 namespace tarn {
 
 namespace {
@@ -17,7 +19,7 @@ constexpr uint32_t kLongestPrefix = 2 + 5;
 uint32_t put_text(uint32_t offset, Encoder &out, const char *text, uint32_t tag)
 {
     const uint32_t length = wire_strlen(text);
-    if (length >= 0x80 || !out.is_sure_to_fit(offset, kLongestPrefix + length))
+    if (length >= 0x80 || !out.is_sure_to_fit(offset, kLongestPrefix + length)) [[unlikely]]
         return out.put_text(out.put_tag(offset, tag), text, length);
     uint8_t *to = store_tag(out.at(offset), tag);
     *to++ = static_cast<uint8_t>(length);
@@ -94,7 +96,7 @@ inline uint32_t write_nested(uint32_t offset, Encoder &out, const uint8_t *recor
     const uint32_t outer = out.begin_try();
     const uint32_t body = offset + tag_size(run.tag) + 1;
     const uint32_t length = write(body, out, record) - body;
-    if (out.end_try(outer) || length >= 0x80)
+    if (out.end_try(outer) || length >= 0x80) [[unlikely]]
         return settle(offset, out, record, run, length, first_segment, measure, write);
     if (length == 0 && !run.present)
         return offset;
@@ -103,10 +105,28 @@ inline uint32_t write_nested(uint32_t offset, Encoder &out, const uint8_t *recor
     return body + length;
 }
 
+constexpr uint32_t kSmallBuffer = 64;
+
+// In so small a buffer the end is always near, and each byte has to be looked at for whether it
+// fits. It is quicker to try where there is more room, and to copy. The result is above the
+// capacity when that cannot be done: a try that is given up ends behind all that room.
+[[gnu::noinline]] uint32_t encode_by_copy(WriteRecord write, const void *record, uint8_t *buffer,
+                                          uint32_t capacity, uint32_t flags)
+{
+    constexpr uint32_t kMoreRoom = 2 * Encoder::kNearEnd;
+    uint8_t roomy[kSmallBuffer + kMoreRoom];
+    Encoder out(roomy, capacity + kMoreRoom, nullptr, nullptr, flags);
+    out.begin_try();
+    const uint32_t length = write(0, out, record);
+    if (length <= capacity)
+        memcpy(buffer, roomy, length);
+    return length;
+}
+
 } // namespace
 
-uint32_t encode_record(WriteRecord write, const void *record, uint8_t *buffer, uint32_t capacity,
-                       WireSegment *segments, uint32_t *segment_count, uint32_t flags)
+uint32_t encode_in_place(WriteRecord write, const void *record, uint8_t *buffer, uint32_t capacity,
+                         WireSegment *segments, uint32_t *segment_count, uint32_t flags)
 {
     Encoder out(buffer, capacity, segments, segment_count, flags);
     const uint32_t length = write(0, out, record);
@@ -115,6 +135,17 @@ uint32_t encode_record(WriteRecord write, const void *record, uint8_t *buffer, u
         *segment_count = out.segment_count();
     }
     return length;
+}
+
+uint32_t encode_record(WriteRecord write, const void *record, uint8_t *buffer, uint32_t capacity,
+                       WireSegment *segments, uint32_t *segment_count, uint32_t flags)
+{
+    if (!kIsSmall && !segment_count && capacity && capacity <= kSmallBuffer) {
+        const uint32_t length = encode_by_copy(write, record, buffer, capacity, flags);
+        if (length <= capacity)
+            return length;
+    }
+    return encode_in_place(write, record, buffer, capacity, segments, segment_count, flags);
 }
 
 uint32_t write_string(uint32_t offset, Encoder &out, const uint8_t *member, uint32_t tag)

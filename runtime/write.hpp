@@ -15,18 +15,27 @@ namespace [[gnu::visibility("hidden")]] tarn {
 using WriteRecord = TARN_CALL uint32_t (*)(uint32_t offset, Encoder &out, const void *record);
 
 // The encoding of a whole record.
+using EncodeRecord = uint32_t (*)(WriteRecord write, const void *record, uint8_t *buffer,
+                                  uint32_t capacity, WireSegment *segments, uint32_t *segment_count,
+                                  uint32_t flags);
+
 uint32_t encode_record(WriteRecord write, const void *record, uint8_t *buffer, uint32_t capacity,
                        WireSegment *segments, uint32_t *segment_count, uint32_t flags);
 
-// The same, or only its size, if that is what is asked for and there is a function for it.
-[[gnu::noinline]] TARN_REGISTERS(2) inline uint32_t
-    measure_or_encode_record(WriteRecord write, MeasureRecord measure, const void *record,
-                             uint8_t *buffer, uint32_t capacity, WireSegment *segments,
-                             uint32_t *segment_count, uint32_t flags)
+// For records with records of another library in them: that writes into the caller's buffer only.
+uint32_t encode_in_place(WriteRecord write, const void *record, uint8_t *buffer, uint32_t capacity,
+                         WireSegment *segments, uint32_t *segment_count, uint32_t flags);
+
+// One of them, or only the size, if that is what is asked for and there is a function for it.
+template <EncodeRecord encode>
+[[gnu::noinline]] TARN_REGISTERS(2) uint32_t
+    measure_or_encode(WriteRecord write, MeasureRecord measure, const void *record, uint8_t *buffer,
+                      uint32_t capacity, WireSegment *segments, uint32_t *segment_count,
+                      uint32_t flags)
 {
     if (measure && capacity == 0 && !segment_count)
         return measure(record, flags);
-    return encode_record(write, record, buffer, capacity, segments, segment_count, flags);
+    return encode(write, record, buffer, capacity, segments, segment_count, flags);
 }
 
 // In a library as small as possible there is no function for it: to measure is to write nowhere.

@@ -216,6 +216,14 @@ uint32_t write_uint32_list(uint32_t offset, Encoder &out, const uint8_t *member,
     uint32_t count = load_count(member);
     const uint32_t *elements = static_cast<const uint32_t *>(load_pointer(member));
     while (count && !out.has_given_up()) {
+        if constexpr (!kIsSmall)
+            for (; count >= kSmallElements && tag < 0x80 &&
+                   out.room(offset) >= kSmallElements * kOneSmall &&
+                   store_small_elements(out.at(offset), elements, tag);
+                 count -= kSmallElements) {
+                elements += kSmallElements;
+                offset += kSmallElements * kOneSmall;
+            }
         const uint32_t some = count < 32 ? count : 32;
         const uint32_t all = static_cast<uint32_t>((uint64_t{1} << some) - 1);
         offset = kTogether<uint32_t> ? write_groups(offset, out, elements, all, tag, 0)

@@ -173,9 +173,19 @@ private:
 
 #endif
 
-// Four fields of two bytes each, as they stand in memory: a tag, a value, the next tag. Tags are
-// `step` apart: there are lists, whose tags are all the same, and neighbouring members.
-constexpr uint32_t kFourSmall = 4 * 2;
+// A field of two bytes, as it stands in memory: a tag and a value.
+constexpr uint32_t kOneSmall = 2;
+
+inline bool is_small(const uint8_t *at, uint32_t tag)
+{
+    uint16_t field;
+    memcpy(&field, at, sizeof field);
+    return (field & 0x80FF) == tag;
+}
+
+// Four of them. Tags are `step` apart: there are lists, whose tags are all the same, and
+// neighbouring members.
+constexpr uint32_t kFourSmall = 4 * kOneSmall;
 
 constexpr uint64_t small_tags(uint32_t tag, uint32_t step)
 {
@@ -200,6 +210,37 @@ inline void load_four_small(uint32_t *values, const uint8_t *at)
     for (uint32_t i = 0; i < 4; i++)
         values[i] = at[2 * i + 1];
 #endif
+}
+
+// How many elements of a list are stored at once when all are below 128.
+#ifdef __SSE2__
+constexpr uint32_t kSmallElements = 8;
+#else
+constexpr uint32_t kSmallElements = 4;
+#endif
+
+// Stores that many, with the tag of one byte before each. False where one is not small: then
+// nothing is stored.
+TARN_INLINE inline bool store_small_elements(uint8_t *to, const uint32_t *elements, uint32_t tag)
+{
+#ifdef __SSE2__
+    const __m128i *from = reinterpret_cast<const __m128i *>(elements);
+    const __m128i first = _mm_loadu_si128(from);
+    const __m128i second = _mm_loadu_si128(from + 1);
+    const __m128i above = _mm_srli_epi32(_mm_or_si128(first, second), 7);
+    if (_mm_movemask_epi8(_mm_cmpeq_epi32(above, _mm_setzero_si128())) != 0xFFFF)
+        return false;
+    const __m128i values = _mm_slli_epi16(_mm_packs_epi32(first, second), 8);
+    const __m128i tags = _mm_set1_epi16(static_cast<int16_t>(tag));
+    _mm_storeu_si128(reinterpret_cast<__m128i *>(to), _mm_or_si128(values, tags));
+#else
+    if ((elements[0] | elements[1] | elements[2] | elements[3]) >= 0x80)
+        return false;
+    const uint32_t tags = tag * 0x00010001;
+    store_4(to, elements[0] << 8 | elements[1] << 24 | tags);
+    store_4(to + 4, elements[2] << 8 | elements[3] << 24 | tags);
+#endif
+    return true;
 }
 
 // Stores two to four of them, and returns the place behind.

@@ -22,30 +22,6 @@ constexpr uint32_t kAllTables = 256 << 10;
 // One for each thread that makes records.
 thread_local Maker make(20'260'101);
 
-// Functions that differ in the type behind a pointer are called alike on all targets.
-template <typename Erased, typename Function>
-Erased erase(Function *function)
-{
-    return reinterpret_cast<Erased>(function);
-}
-
-template <typename Record, typename Encode, typename Decode, typename Duplicate, typename Release>
-Workload make_workload(Encode encode, Decode decode, Duplicate duplicate, Release release)
-{
-    Workload workload{};
-    workload.record_size = sizeof(Record);
-    workload.encode = erase<decltype(Workload::encode)>(encode);
-    workload.decode = erase<decltype(Workload::decode)>(decode);
-    workload.duplicate = erase<decltype(Workload::duplicate)>(duplicate);
-    workload.release = erase<decltype(Workload::release)>(release);
-    return workload;
-}
-
-#define BENCH_WORKLOAD(type)                                                                       \
-    make_workload<tarn_ethsw_mgmt_##type>(                                                         \
-        tarn_ethsw_mgmt_##type##_encode_ext, tarn_ethsw_mgmt_##type##_decode_ext,                  \
-        tarn_ethsw_mgmt_##type##_duplicate, tarn_ethsw_mgmt_##type##_free_ext)
-
 // So many entries, beginning with one of the long table, which is begun again when it is over.
 const Table *make_table(const Table &source, uint32_t first, uint32_t count)
 {
@@ -108,7 +84,7 @@ Workload of_one(Workload workload, Lengths... lengths)
 
 Workload make_tables(uint32_t size)
 {
-    Workload workload = BENCH_WORKLOAD(fdb_get_table_entry_resp);
+    Workload workload = BENCH_OF_TYPE(fdb_get_table_entry_resp, Workload{});
     const Table &source = *[] {
         Table *filled = make.record<Table>();
         fill(make, *filled);
@@ -127,13 +103,13 @@ Workload make_nested(uint32_t levels)
 {
     switch (levels) {
     case 2:
-        return of_one<Group>(BENCH_WORKLOAD(sdr_statistics_pg_info));
+        return of_one<Group>(BENCH_OF_TYPE(sdr_statistics_pg_info, Workload{}));
     case 3:
-        return of_one<Info>(BENCH_WORKLOAD(glbl_sdr_statistics_info), 64U);
+        return of_one<Info>(BENCH_OF_TYPE(glbl_sdr_statistics_info, Workload{}), 64U);
     case 4:
-        return of_one<Response>(BENCH_WORKLOAD(glbl_sdr_statistics_resp), 16U, 16U);
+        return of_one<Response>(BENCH_OF_TYPE(glbl_sdr_statistics_resp, Workload{}), 16U, 16U);
     default:
-        Workload workload = BENCH_WORKLOAD(sdr_statistics_tc_data);
+        Workload workload = BENCH_OF_TYPE(sdr_statistics_tc_data, Workload{});
         for (const Triple &triple : make_leaves())
             workload.variants.push_back(&triple);
         return workload;

@@ -19,9 +19,9 @@ FAILED = re.compile(r"^\s+\d+ - (\S+) \((?!Skipped)(.+)\)$", re.MULTILINE)
 
 
 def _limit_memory():
-    """For tests: some map 4 GiB of address space, none needs much that is really there."""
+    """For tests: some map 4 GiB of address space or have 2 of their own, none uses much of it."""
     resource.setrlimit(resource.RLIMIT_AS, (16 * GIB, 16 * GIB))
-    resource.setrlimit(resource.RLIMIT_DATA, (2 * GIB, 2 * GIB))
+    resource.setrlimit(resource.RLIMIT_DATA, (3 * GIB, 3 * GIB))
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
 
 

@@ -64,6 +64,25 @@ TARN_CALL uint32_t count_write(uint32_t offset, tarn::Encoder &, const void *cal
     return offset + 3;
 }
 
+template <tarn::EncodeRecord encode_whole>
+void expect_measured_where_nothing_else_is_asked_for()
+{
+    CallsOf calls = {};
+    uint8_t buffer[4] = {};
+    uint32_t count = 0;
+    const auto encode = [&](tarn::MeasureRecord by, uint32_t capacity, uint32_t *segment_count) {
+        return tarn::measure_or_encode<encode_whole>(count_write, by, &calls, buffer, capacity,
+                                                     nullptr, segment_count, 0);
+    };
+    EXPECT_EQ(encode(count_measure, 0, nullptr), 3u);
+    EXPECT_TRUE(calls.measure == 1 && calls.write == 0);
+    EXPECT_EQ(encode(count_measure, 4, nullptr), 3u);
+    EXPECT_EQ(encode(count_measure, 0, &count), 3u);
+    EXPECT_EQ(count, 1u);
+    EXPECT_EQ(encode(nullptr, 0, nullptr), 3u);
+    EXPECT_TRUE(calls.measure == 1 && calls.write == 3);
+}
+
 } // namespace
 
 TEST(a_short_buffer, gets_what_fits_of_every_kind)
@@ -120,18 +139,6 @@ TEST(measuring, needs_no_buffer_and_gives_the_length)
 // Whoever has a function that measures has it called for that, and for nothing else.
 TEST(encoding_a_record, measures_where_nothing_else_is_asked_for)
 {
-    CallsOf calls = {};
-    uint8_t buffer[4] = {};
-    uint32_t count = 0;
-    const auto encode = [&](tarn::MeasureRecord by, uint32_t capacity, uint32_t *segment_count) {
-        return tarn::measure_or_encode_record(count_write, by, &calls, buffer, capacity, nullptr,
-                                              segment_count, 0);
-    };
-    EXPECT_EQ(encode(count_measure, 0, nullptr), 3u);
-    EXPECT_TRUE(calls.measure == 1 && calls.write == 0);
-    EXPECT_EQ(encode(count_measure, 4, nullptr), 3u);
-    EXPECT_EQ(encode(count_measure, 0, &count), 3u);
-    EXPECT_EQ(count, 1u);
-    EXPECT_EQ(encode(nullptr, 0, nullptr), 3u);
-    EXPECT_TRUE(calls.measure == 1 && calls.write == 3);
+    expect_measured_where_nothing_else_is_asked_for<tarn::encode_record>();
+    expect_measured_where_nothing_else_is_asked_for<tarn::encode_in_place>();
 }

@@ -162,6 +162,9 @@ TEST(encoding, lets_numbers_wrap_around)
     EXPECT_EQ(encoding.buffer, (Bytes{0xFF, 0xFF, 0xFF, 0xFF, 0x01, 0xFF, 0xFF, 0x0F, 0xA5, 0xA5}));
     EXPECT_EQ(encoding.pieces, "(buffer, 5)");
     EXPECT_EQ(encode_into(0, 4, record).length, 5u);
+    Bytes buffer(10, Encoding::kUntouched);
+    EXPECT_EQ(CodecFor<Blobs>::encode(&record, buffer.data(), 10, nullptr, nullptr, 0), 5u);
+    EXPECT_EQ(buffer, encoding.buffer);
 }
 
 TEST(encoding, takes_byte_strings_that_would_wrap_for_empty)

@@ -19,6 +19,13 @@ Bytes cleared(Bytes flags)
 }
 
 template <uint32_t members>
+Bytes filled(Bytes flags)
+{
+    set_all_flags<members>(flags.data());
+    return flags;
+}
+
+template <uint32_t members>
 Bytes copied(Bytes to, const Bytes &from)
 {
     copy_flags<members>(to.data(), from.data());
@@ -130,6 +137,15 @@ TEST(clearing_flags, leaves_bits_that_belong_to_no_member)
     EXPECT_EQ(cleared<9>({0xFF, 0xFF}), (Bytes{0x00, 0xFE}));
     EXPECT_EQ(cleared<16>({0xFF, 0xFF, 0xFF}), (Bytes{0x00, 0x00, 0xFF}));
     EXPECT_EQ(cleared<45>({0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}), (Bytes{0, 0, 0, 0, 0, 0xE0}));
+}
+
+TEST(setting_all_flags, leaves_bits_that_belong_to_no_member)
+{
+    EXPECT_EQ(filled<1>({0x00}), (Bytes{0x01}));
+    EXPECT_EQ(filled<5>({0x80}), (Bytes{0x9F}));
+    EXPECT_EQ(filled<8>({0x00, 0x00}), (Bytes{0xFF, 0x00}));
+    EXPECT_EQ(filled<9>({0x00, 0x00}), (Bytes{0xFF, 0x01}));
+    EXPECT_EQ(filled<16>({0x00, 0x00, 0x00}), (Bytes{0xFF, 0xFF, 0x00}));
 }
 
 TEST(copying_flags, leaves_bits_that_belong_to_no_member)

@@ -5,49 +5,11 @@
 #include "ethsw_mgmt/integrity.hpp"
 #include "ethsw_mgmt/switch.hpp"
 #include "tests/runtime/plain_numbers.hpp"
+#include "tests/runtime/tiny.hpp"
 #include "tests/support/operations.hpp"
 #include "tests/support/records.hpp"
 
 using namespace test;
-
-namespace {
-
-template <typename Member, uint8_t number>
-struct TinyOne {
-    alignas(sizeof(Member)) Member first;
-    uint8_t flags;
-};
-
-template <typename First, uint8_t first_number, typename Second, uint8_t second_number>
-struct TinyTwo {
-    alignas(sizeof(First)) First first;
-    alignas(sizeof(Second)) Second second;
-    uint8_t flags;
-};
-
-} // namespace
-
-namespace [[gnu::visibility("hidden")]] tarn {
-
-template <typename Member, uint8_t number>
-struct Schema<TinyOne<Member, number>> {
-    static constexpr Field fields[] = {
-        field<kind_of_member<Member>(), Member>(number, 0),
-    };
-    using Children = RecordTypes<>;
-};
-
-template <typename First, uint8_t first_number, typename Second, uint8_t second_number>
-struct Schema<TinyTwo<First, first_number, Second, second_number>> {
-    using Tiny = TinyTwo<First, first_number, Second, second_number>;
-    static constexpr Field fields[] = {
-        field<kind_of_member<First>(), First>(first_number, offsetof(Tiny, first)),
-        field<kind_of_member<Second>(), Second>(second_number, offsetof(Tiny, second)),
-    };
-    using Children = RecordTypes<>;
-};
-
-} // namespace tarn
 
 namespace {
 
@@ -126,7 +88,7 @@ void expect_plain(const Tiny &record, PlainEncode encode, uint32_t flags)
 template <typename Tiny>
 void expect_plain_with_all_values(PlainEncode encode)
 {
-    static_assert(CodecFor<Tiny>::is_tiny);
+    static_assert(CodecFor<Tiny>::is_tiny == !has_wide_member<Tiny>());
     const std::vector<uint64_t> values = border_values();
     constexpr auto &fields = tarn::Schema<Tiny>::fields;
     constexpr tarn::Field last = std::end(fields)[-1];
@@ -217,9 +179,11 @@ TEST(a_record_of_the_catalogue, of_one_number_or_two_is_written_by_the_plain_rul
     expect_exported_plain<tarn_faults_stats_info, tarn_faults_stats_info_encode_ext>();
 }
 
-// Neither a third number nor anything else makes one.
+// Neither a third number nor a wide one nor anything else makes one.
 TEST(a_record, is_tiny_with_one_number_or_two)
 {
+    EXPECT_TRUE((CodecFor<TinyTwo<uint32_t, 1, uint32_t, 2>>::is_tiny));
+    EXPECT_FALSE((CodecFor<TinyOne<uint64_t, 1>>::is_tiny));
     EXPECT_FALSE(CodecFor<Nothing>::is_tiny);
     EXPECT_FALSE(CodecFor<Rows>::is_tiny);
     EXPECT_FALSE(CodecFor<Leaf>::is_tiny);

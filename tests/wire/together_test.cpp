@@ -211,3 +211,44 @@ TEST(small_fields, are_stored_to_the_last_byte_and_no_further)
         }
     });
 }
+
+// The block has no element more.
+TEST(small_elements, are_stored_with_their_tag_when_there_is_no_other_among_them)
+{
+    const auto elements = std::make_unique<uint32_t[]>(kSmallElements);
+    for (uint8_t tag : Bytes{0x08, 0x40, 0x78}) {
+        Bytes expected = {kGuard};
+        for (uint32_t i = 0; i < kSmallElements; i++) {
+            elements[i] = i * 0x7F / (kSmallElements - 1);
+            expected = join({expected, {tag, static_cast<uint8_t>(elements[i])}});
+        }
+        expected.push_back(kGuard);
+        Bytes buffer(expected.size(), kGuard);
+        EXPECT_TRUE(store_small_elements(buffer.data() + 1, elements.get(), tag));
+        EXPECT_EQ(buffer, expected);
+    }
+}
+
+TEST(small_elements, are_not_stored_when_there_is_another_among_them)
+{
+    for (uint32_t place = 0; place < kSmallElements; place++) {
+        for (uint32_t bit = 7; bit < 32; bit++) {
+            const auto elements = std::make_unique<uint32_t[]>(kSmallElements);
+            elements[place] = 1u << bit;
+            Bytes buffer(size_t{kSmallElements} * kOneSmall, kGuard);
+            EXPECT_FALSE(store_small_elements(buffer.data(), elements.get(), 0x08))
+                << "bit " << bit << " of element " << place;
+            EXPECT_EQ(buffer, Bytes(buffer.size(), kGuard));
+        }
+    }
+}
+
+TEST(a_small_field, is_known_by_its_tag_and_the_top_bit_of_its_value)
+{
+    for (uint32_t tag = 0; tag < 0x80; tag++) {
+        for (uint32_t field = 0; field < 0x10000; field++) {
+            const uint8_t bytes[] = {static_cast<uint8_t>(field), static_cast<uint8_t>(field >> 8)};
+            ASSERT_EQ(is_small(bytes, tag), bytes[0] == tag && bytes[1] < 0x80) << field;
+        }
+    }
+}
