@@ -218,7 +218,8 @@ TARN_INLINE inline uint8_t *store_run(uint8_t *to, const uint8_t *members, const
 template <Run run>
 TARN_INLINE inline bool is_small_run(const uint8_t *message)
 {
-    const uint8_t *at = message + size_t{kOneSmall} * run.first_bit;
+    constexpr uint32_t kBefore = kOneSmall * run.first_bit;
+    const uint8_t *at = message + kBefore;
     uint32_t tag = tag_of(run);
     bool small = true;
     for (uint32_t i = 0; i < run.count; i++, at += kOneSmall, tag += kTagStep)
@@ -229,7 +230,8 @@ TARN_INLINE inline bool is_small_run(const uint8_t *message)
 template <Run run>
 TARN_INLINE inline void load_small_run(uint8_t *members, const uint8_t *message)
 {
-    const uint8_t *at = message + size_t{kOneSmall} * run.first_bit;
+    constexpr uint32_t kBefore = kOneSmall * run.first_bit;
+    const uint8_t *at = message + kBefore;
     for (uint32_t i = 0; i < run.count; i++, at += kOneSmall) {
         const uint8_t value = at[1];
         if constexpr (run.kind == Kind::boolean)
