@@ -58,9 +58,11 @@ std::string flag_line(const Member &member)
     return kIndent + ("unsigned has_" + member.name) + " : 1;\n";
 }
 
+} // namespace
+
 std::string structure(const Record &record)
 {
-    std::string out = "\n" + doc_comment(record.comment, "");
+    std::string out = doc_comment(record.comment, "");
     if (record.members.empty())
         return out + "typedef struct " + record.name + " " + record.name + ";\n";
     out += "typedef struct " + record.name + " {\n";
@@ -71,8 +73,6 @@ std::string structure(const Record &record)
     return out + "} " + record.name + ";\n";
 }
 
-} // namespace
-
 std::string c_header(const File &file)
 {
     const std::string name = guard(file.path);
@@ -82,7 +82,7 @@ std::string c_header(const File &file)
         out += "#include \"" + import + ".h\"\n";
     out += "#include \"runtime/record.h\"\n";
     for (const Record &record : file.records)
-        out += structure(record) + "TARN_DECLARE_OPERATIONS(" + record.name + ");\n";
+        out += "\n" + structure(record) + "TARN_DECLARE_OPERATIONS(" + record.name + ");\n";
     return out + "\n#endif\n";
 }
 

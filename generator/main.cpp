@@ -95,9 +95,11 @@ private:
         }
         write_file(context, "ethsw_mgmt/ethsw_mgmt.h", umbrella_header(files));
         write_file(context, "abi/exports.txt", exported_names(files));
-        for (const Target &target : {Target{"i686", 4}, Target{"armhf", 4}, Target{"x86_64", 8}})
-            write_file(context, "abi/" + target.name + ".def", abi_table(files, foreign, target));
+        for (const Target &target : kTargets)
+            write_file(context, std::string("abi/") + target.name + ".def",
+                       abi_table(every_record(files, foreign), target));
         write_file(context, "tests/catalogue/record_types.cpp", test_tables(files));
+        write_file(context, "tools/core/record_types.cpp", inspector_tables(files, foreign));
     }
 };
 

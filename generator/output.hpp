@@ -4,6 +4,7 @@
 #pragma once
 
 #include "generator/catalogue.hpp"
+#include "generator/layout.hpp"
 
 #include <string>
 #include <vector>
@@ -20,13 +21,15 @@ std::string umbrella_header(const std::vector<File> &files);
 std::string exported_names(const std::vector<File> &files);
 std::string test_tables(const std::vector<File> &files);
 
-// Sizes and offsets on one target. `foreign` are the records that others define.
-struct Target {
-    std::string name;
-    unsigned pointer_size;
-};
+// Of these and of the records that others define.
+std::string inspector_tables(const std::vector<File> &files, const File &foreign);
+std::string abi_table(const std::vector<const Record *> &records, const Target &target);
 
-std::string abi_table(const std::vector<File> &files, const File &foreign, const Target &target);
+// What is embedded before what embeds it.
+std::vector<const Record *> every_record(const std::vector<File> &files, const File &foreign);
+
+// The structure of a record, with its comment.
+std::string structure(const Record &record);
 
 // What a generated file says of itself, and the first lines of one in C++.
 std::string generated_from(const std::string &source);
