@@ -110,6 +110,7 @@ public:
     RecordView view() const { return {*type_, storage_.get()}; }
     RecordEditor editor() { return {*type_, storage_.get()}; }
     Arena &arena() { return *arena_; }
+    const Arena &arena() const { return *arena_; }
 
 private:
     const RecordType *type_;

@@ -5,46 +5,14 @@
 
 #pragma once
 
+#include "tools/core/notes.hpp"
 #include "tools/core/record.hpp"
 #include "tools/core/verdict.hpp"
 
 #include <cstdint>
-#include <string_view>
 #include <vector>
 
 namespace inspect {
-
-// What is unusual about a piece of a message, though it may well be legal.
-enum class Note : uint32_t {
-    overlong_varint,   // more bytes than its value needs
-    dropped_bits,      // bits that do not fit the member
-    unknown_field,     // skipped
-    past_the_end,      // a skipped field claims more bytes than there are
-    backward_jump,     // the length of a skipped field wraps around
-    met_again,         // a scalar or embedded record that was there already
-    replaced_record,   // what the first one held is lost
-    zero_byte_in_text, // C reads the text up to there
-    not_utf8,
-    out_of_order, // a lower number than the field before
-    packed_run,
-    broken_run, // a list that goes on after another field
-    bool_above_one,
-};
-constexpr uint32_t kNoteCount = 13;
-
-class Notes {
-public:
-    void add(Note note) { bits_ |= uint32_t{1} << static_cast<uint32_t>(note); }
-    bool has(Note note) const { return (bits_ >> static_cast<uint32_t>(note) & 1) != 0; }
-    bool any() const { return bits_ != 0; }
-    std::vector<Note> list() const;
-
-private:
-    uint32_t bits_ = 0;
-};
-
-// A few words, to stand beside the bytes.
-std::string_view note_words(Note note);
 
 enum class Part { tag, length, value, skipped, unread };
 
@@ -54,11 +22,11 @@ struct Piece {
     uint32_t offset; // in the whole message
     Bytes bytes;
     size_t depth;                  // of records around it
-    const std::vector<Step> *path; // of its field; without it, of the record around it
-    const Member *member;          // null: the record does not have this field
+    const std::vector<Step> *path; // of the field; of the record, where it has no such field
+    const Member *member;          // null: the record has no such field
     uint32_t number;               // of the field
     uint32_t wire_type;
-    uint64_t value; // of a varint
+    uint64_t value; // of a tag, a length or a number: what is left of it
     Notes notes;
 };
 
@@ -74,17 +42,16 @@ public:
 };
 
 struct WalkOptions {
-    // How many blocks of memory the decoder gets before it is refused one.
+    // How many blocks of memory the decoder is granted before it is refused one.
     uint64_t blocks = UINT64_MAX;
-    // Only what is found on the way to the verdict: how many backward jumps are followed.
-    uint32_t most_jumps = 10000;
 };
 
-// How decoding ends. After more jumps than are followed, or when the visitor ends it, WIRE_OK.
+// How decoding ends. When the visitor ends it, and when a message jumps back so often that
+// following it would take long, the verdict is WIRE_OK with a reason.
 Verdict walk(const RecordType &type, Bytes message, Visitor &visitor,
              const WalkOptions &options = {});
 
-// The verdict on a decoding that the library has done: its result, and where and why.
+// The verdict on a decoding that the library has done into `record`: its result, and where and why.
 Verdict explain(const Record &record, Bytes message, int32_t result);
 
 } // namespace inspect
