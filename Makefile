@@ -3,17 +3,22 @@
 
 JOBS := $(shell nproc)
 
-.PHONY: all demo test bench regenerate check-generated format clean
+.PHONY: all tools demo test bench regenerate check-generated format clean
 
 all:
 	cmake --preset release
 	cmake --build --preset release --parallel $(JOBS)
 
-# Installs what is missing (as root, on Debian 12), builds, and lets a client talk to a service.
+# Installs what is missing (as root, on Debian 12), and builds the inspector: build/release/ethsw-inspect
+tools:
+	@scripts/install-packages tools
+	@cmake --preset release -DTARN_BUILD_TOOLS=ON > /dev/null
+	@cmake --build --preset release --parallel $(JOBS) > /dev/null
+
+# Installs what is missing, builds, lets a client talk to a service, and looks at a message.
 demo:
 	@scripts/install-packages demo
-	@cmake --preset release > /dev/null
-	@cmake --build --preset release --parallel $(JOBS) > /dev/null
+	@$(MAKE) --no-print-directory tools
 	@examples/run-demo build/release
 
 # Installs what is missing, builds, and runs the whole suite on every target.

@@ -27,6 +27,7 @@ public:
     // How often memory was handed out, which tells how far a decoding came that ran out of it.
     uint64_t blocks() const { return blocks_; }
     size_t used() const { return used_; }
+    size_t room() const { return limit_ - used_; }
 
     // As the library's alloc_fn, with an arena as its context.
     static void *callback(uint32_t size, void *arena);

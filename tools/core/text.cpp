@@ -7,9 +7,6 @@
 
 namespace inspect {
 
-namespace {
-
-// The bytes of the UTF-8 character that `text` begins with; 0 where it does not begin with one.
 size_t character_size(std::string_view text)
 {
     const auto byte = [text](size_t i) { return static_cast<uint8_t>(text[i]); };
@@ -28,6 +25,8 @@ size_t character_size(std::string_view text)
     const bool too_large = first == 0xF4 && second > 0x8F;
     return overlong || surrogate || too_large ? 0 : size;
 }
+
+namespace {
 
 std::string escaped(char c)
 {

@@ -23,6 +23,9 @@ using Progress = std::function<void(double)>;
 // show on a terminal whatever it holds.
 std::string quoted(std::string_view text);
 bool is_utf8(std::string_view text);
+// The bytes of the UTF-8 character that the text begins with; 0 where it does not begin with one.
+// There has to be a text.
+size_t character_size(std::string_view text);
 
 // "de ad be ef"; with `separator` between two bytes.
 std::string hex(Bytes bytes, std::string_view separator = " ");
