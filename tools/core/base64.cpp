@@ -48,7 +48,7 @@ void append_base64(std::string &text, Bytes bytes)
     text.append(count == 2 ? "==" : "=");
 }
 
-std::optional<std::vector<uint8_t>> from_base64(std::string_view text)
+std::optional<std::vector<uint8_t>> bytes_of_base64(std::string_view text)
 {
     text = without_padding(text);
     if (text.size() % 4 == 1)

@@ -19,6 +19,6 @@ void append_base64(std::string &text, Bytes bytes);
 
 // In either alphabet, with all padding or none. Nothing where the text is not base64, or says bits
 // beyond its last byte.
-std::optional<std::vector<uint8_t>> from_base64(std::string_view text);
+std::optional<std::vector<uint8_t>> bytes_of_base64(std::string_view text);
 
 } // namespace inspect

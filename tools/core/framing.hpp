@@ -15,8 +15,8 @@ namespace inspect {
 enum class Framing {
     none, // the stream is one message
     varint,
-    u32le,
-    u32be,
+    u32le, // four bytes, the lowest first
+    u32be, // four bytes, the highest first
 };
 
 struct Frame {
@@ -28,8 +28,9 @@ class FrameReader {
 public:
     FrameReader(Bytes stream, Framing framing) : stream_(stream), framing_(framing) {}
 
-    // Nothing at the end of the stream. Throws Error where a length is cut off, or longer than what
-    // is left. Without framing there is one message, which may be empty.
+    // Nothing at the end of the stream. Throws Error, with the offset in the stream, where a length
+    // is cut off, or longer than what is left: again and again, since nothing behind such a place
+    // can be found. Without framing there is one message, which may be empty.
     std::optional<Frame> next();
 
 private:

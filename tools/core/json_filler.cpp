@@ -208,7 +208,7 @@ void JsonFiller::put_text(std::string_view value)
 void JsonFiller::put_bytes(std::string_view digits)
 {
     const std::optional<std::vector<uint8_t>> bytes =
-        options_.bytes_as_hex ? from_hex(digits) : from_base64(digits);
+        options_.bytes_as_hex ? bytes_of_hex(digits) : bytes_of_base64(digits);
     if (!bytes)
         fail(excerpt(digits) + (options_.bytes_as_hex ? " is not hex" : " is not base64"));
     auto *const data = reinterpret_cast<uint8_t *>(take(bytes->size()));

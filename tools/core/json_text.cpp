@@ -79,6 +79,7 @@ Token blamed(std::string_view json, Token token)
     const std::string_view before = json.substr(start, token.start - start);
     if (!before.empty() && !nlohmann::json::accept(before))
         return {start, token.start - 1, false};
+    token.last += std::max<size_t>(character_size(json.substr(token.last)), 1) - 1;
     while (is_of_word(json[token.last]) && token.last + 1 < json.size() &&
            is_of_word(json[token.last + 1]))
         token.last++;

@@ -132,7 +132,7 @@ WholeNumber whole_number(std::string_view text, Kind kind)
     return {*value, {}};
 }
 
-std::optional<std::vector<uint8_t>> from_hex(std::string_view text)
+std::optional<std::vector<uint8_t>> bytes_of_hex(std::string_view text)
 {
     if (text.size() % 2 != 0)
         return {};

@@ -23,6 +23,6 @@ struct WholeNumber {
 WholeNumber whole_number(std::string_view text, Kind kind);
 
 // Two digits for each byte, and nothing else.
-std::optional<std::vector<uint8_t>> from_hex(std::string_view text);
+std::optional<std::vector<uint8_t>> bytes_of_hex(std::string_view text);
 
 } // namespace inspect
