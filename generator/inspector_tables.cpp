@@ -130,7 +130,7 @@ private:
             field.message_type() ? field.message_type()->name() : field.type_name();
         return wrapped(comment, "  // ") + "  " +
                (field.is_repeated() ? "repeated " : "optional ") + type + " " + field.name() +
-               " = " + std::to_string(field.number()) + ";\n";
+               " = " + std::to_string(field.number()) + default_of(field) + ";\n";
     }
 
     std::map<std::string, size_t> indices_;

@@ -12,7 +12,8 @@ constexpr std::string_view kDigits =
 constexpr uint8_t kNoDigit = 64;
 constexpr unsigned kBits = 6; // of a digit
 
-constexpr std::array<uint8_t, 256> kValues = [] {
+constexpr std::array<uint8_t, 256> values_of_digits()
+{
     std::array<uint8_t, 256> values{};
     values.fill(kNoDigit);
     for (size_t i = 0; i < kDigits.size(); i++)
@@ -20,7 +21,9 @@ constexpr std::array<uint8_t, 256> kValues = [] {
     values['-'] = values['+'];
     values['_'] = values['/'];
     return values;
-}();
+}
+
+constexpr std::array<uint8_t, 256> kValues = values_of_digits();
 
 std::string_view without_padding(std::string_view text)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/core/diff.hpp"
 
+#include "tools/core/excerpt.hpp"
 #include "tools/core/values.hpp"
 
 #include <algorithm>
@@ -11,9 +12,6 @@ namespace inspect {
 
 namespace {
 
-// Longer ones are shown from where they differ.
-constexpr size_t kTextShown = 48;
-constexpr size_t kBytesShown = 16;
 constexpr size_t kAlignedPath = 24;
 
 std::string_view view_of(const char *text)
@@ -21,47 +19,9 @@ std::string_view view_of(const char *text)
     return text ? std::string_view(text) : std::string_view();
 }
 
-template <typename Range>
-size_t first_difference(const Range &before, const Range &after)
+Phrase beginning_of(const char *text)
 {
-    return static_cast<size_t>(std::ranges::mismatch(before, after).in1 - before.begin());
-}
-
-// A text or a byte string from a position on, cut short, with what is left out.
-Phrase excerpt(std::string_view text, size_t from)
-{
-    const std::string_view rest = text.substr(from);
-    const std::string_view part = fitting_part(rest, kTextShown);
-    Phrase shown(Ink::text, quoted(part));
-    if (part.size() != rest.size())
-        shown.add(Ink::quiet, fmt::format(" and {} more", rest.size() - part.size()));
-    return shown;
-}
-
-Phrase excerpt(Bytes bytes, size_t from)
-{
-    const Bytes rest = bytes.subspan(from);
-    const Bytes part = rest.first(std::min(rest.size(), kBytesShown));
-    Phrase shown = part.empty() ? Phrase(Ink::quiet, "nothing") : Phrase(Ink::value, hex(part));
-    if (part.size() != rest.size())
-        shown.add(Ink::quiet, fmt::format(" and {} more", rest.size() - part.size()));
-    return shown;
-}
-
-Phrase changed(const Phrase &before, const Phrase &after)
-{
-    return Phrase(before).add(Ink::quiet, " -> ").add(after);
-}
-
-// Where they differ only behind what would be shown of them, it is shown from there on.
-template <typename Value>
-Phrase changed_from(const Value &before, const Value &after, size_t shown)
-{
-    size_t from = first_difference(before, after);
-    if (std::max(before.size(), after.size()) <= shown)
-        return changed(excerpt(before, 0), excerpt(after, 0));
-    return Phrase(Ink::quiet, fmt::format("from byte {}: ", from))
-        .add(changed(excerpt(before, from), excerpt(after, from)));
+    return text ? beginning(view_of(text)) : text_value(nullptr);
 }
 
 class DiffWriter {
@@ -138,8 +98,7 @@ void DiffWriter::compare_member(RecordView before, RecordView after, const Membe
         break;
     case Kind::bytes:
         if (!std::ranges::equal(before.bytes(member), after.bytes(member)))
-            write(Change::changed, path,
-                  changed_from(before.bytes(member), after.bytes(member), kBytesShown));
+            write(Change::changed, path, changed(before.bytes(member), after.bytes(member)));
         break;
     case Kind::message:
         compare(before.child(member), after.child(member), path);
@@ -161,7 +120,7 @@ void DiffWriter::compare_texts(const char *before, const char *after, const std:
 {
     const bool is_same = view_of(before) == view_of(after);
     if (before && after && !is_same)
-        write(Change::changed, path, changed_from(view_of(before), view_of(after), kTextShown));
+        write(Change::changed, path, changed(view_of(before), view_of(after)));
     else if ((before == nullptr) != (after == nullptr))
         write(Change::changed, path, changed(text_value(before), text_value(after)));
 }
@@ -206,10 +165,9 @@ void DiffWriter::show(Change change, RecordView record, const Member &member,
         return;
     }
     if (member.kind == Kind::string)
-        write(change, path,
-              record.text(member) ? excerpt(view_of(record.text(member)), 0) : text_value(nullptr));
+        write(change, path, beginning_of(record.text(member)));
     else if (member.kind == Kind::bytes)
-        write(change, path, excerpt(record.bytes(member), 0));
+        write(change, path, beginning(record.bytes(member)));
     else
         write(change, path, number_value(member.kind, record.number(member)));
 }
@@ -220,7 +178,7 @@ void DiffWriter::show_element(Change change, RecordView record, const Member &li
     if (list.kind == Kind::repeated_message)
         show_record(change, record.element(list, index), path);
     else if (list.kind == Kind::repeated_string)
-        write(change, path, excerpt(view_of(record.text_at(list, index)), 0));
+        write(change, path, beginning_of(record.text_at(list, index)));
     else
         write(change, path, number_value(Kind::uint32, record.number_at(list, index)));
 }

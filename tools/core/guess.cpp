@@ -55,10 +55,24 @@ struct Trial {
 
 size_t members_present(RecordView record)
 {
-    return static_cast<size_t>(
-        std::ranges::count_if(record.type().members, [record](const Member &member) {
-            return record.is_written(member);
-        }));
+    const auto is_there = [record](const Member &member) { return record.is_written(member); };
+    return static_cast<size_t>(std::ranges::count_if(record.type().members, is_there));
+}
+
+size_t members_missing(RecordView record)
+{
+    size_t missing = record.type().members.size() - members_present(record);
+    for (const Member &member : record.type().members) {
+        if (!record.is_written(member) || !member.child)
+            continue;
+        if (!is_list(member.kind)) {
+            missing += members_missing(record.child(member));
+            continue;
+        }
+        for (uint32_t i = 0; i < record.count(member); i++)
+            missing += members_missing(record.element(member, i));
+    }
+    return missing;
 }
 
 Trial try_type(const ShapeClass &types, Bytes message, size_t memory_limit)
@@ -79,6 +93,7 @@ Trial try_type(const ShapeClass &types, Bytes message, size_t memory_limit)
         return trial;
     trial.guess.is_canonical = std::ranges::equal(record.encode(), message);
     trial.guess.members_present = members_present(record.view());
+    trial.guess.members_missing = members_missing(record.view());
     return trial;
 }
 
@@ -87,31 +102,50 @@ auto rank(const Guess &guess, size_t message_size)
 {
     const size_t unknown = message_size - guess.bytes_known;
     const bool is_whole = unknown == 0 && guess.is_canonical;
-    const RecordType &type = *guess.types->front();
     return std::tuple(!is_whole, unknown, !guess.is_canonical, guess.has_odd_text,
-                      guess.bytes_opaque, type.members.size() - guess.members_present,
-                      type.short_name());
+                      guess.bytes_opaque, guess.members_missing, SIZE_MAX - guess.types->size(),
+                      guess.types->front()->short_name());
+}
+
+// The tag of a field that is refused has been read, and does not count.
+Refusal refusal_of(const Trial &trial)
+{
+    const bool was_followed = trial.verdict.result != WIRE_OK;
+    const size_t end = was_followed ? trial.verdict.offset : SIZE_MAX;
+    return {trial.guess.types, trial.verdict, std::min(trial.guess.bytes_known, end)};
+}
+
+std::vector<Trial> try_all(Bytes message, size_t memory_limit, const Progress &progress)
+{
+    const std::vector<ShapeClass> &classes = shape_classes();
+    std::vector<Trial> trials;
+    for (const ShapeClass &types : classes) {
+        if (progress)
+            progress(static_cast<double>(trials.size()) / static_cast<double>(classes.size()));
+        trials.push_back(try_type(types, message, memory_limit));
+    }
+    return trials;
 }
 
 } // namespace
 
-std::vector<Guess> guess(Bytes message, size_t memory_limit)
+std::vector<Guess> guess(Bytes message, size_t memory_limit, const Progress &progress)
 {
     std::vector<Guess> guesses;
-    for (const ShapeClass &types : shape_classes())
-        if (const Trial trial = try_type(types, message, memory_limit); trial.is_taken())
+    for (const Trial &trial : try_all(message, memory_limit, progress))
+        if (trial.is_taken())
             guesses.push_back(trial.guess);
     std::ranges::sort(guesses, {},
                       [message](const Guess &guess) { return rank(guess, message.size()); });
     return guesses;
 }
 
-std::vector<Refusal> refusals(Bytes message, size_t memory_limit)
+std::vector<Refusal> refusals(Bytes message, size_t memory_limit, const Progress &progress)
 {
     std::vector<Refusal> refused;
-    for (const ShapeClass &types : shape_classes())
-        if (const Trial trial = try_type(types, message, memory_limit); !trial.is_taken())
-            refused.push_back({&types, trial.verdict, trial.guess.bytes_known});
+    for (const Trial &trial : try_all(message, memory_limit, progress))
+        if (!trial.is_taken())
+            refused.push_back(refusal_of(trial));
     std::ranges::stable_sort(refused, std::ranges::greater{}, [](const Refusal &refusal) {
         return std::tuple(refusal.bytes_known, refusal.verdict.offset);
     });

@@ -22,8 +22,9 @@ struct Guess {
     bool is_canonical;  // encoding gives the same bytes again
     size_t bytes_known; // of the message, in fields that the type has
     size_t members_present;
-    bool has_odd_text;       // a string that is not UTF-8, or has control characters
-    size_t bytes_opaque = 0; // in byte strings, which take anything
+    bool has_odd_text;          // a string that is not UTF-8, or has control characters
+    size_t bytes_opaque = 0;    // in byte strings, which take anything
+    size_t members_missing = 0; // of all records, the nested ones, too
 };
 
 // All classes whose types take the message, the likeliest first. That is, in this order:
@@ -33,9 +34,10 @@ struct Guess {
 //  - encoding gives the same bytes again;
 //  - texts look like texts;
 //  - less of it is in byte strings: that a text or a record fits by chance is rarer;
-//  - fewer members are missing: peers fill most of a record;
+//  - fewer members are missing, at all depths: peers fill most of a record;
+//  - more types have the shape;
 //  - the name, so that the order is always the same.
-std::vector<Guess> guess(Bytes message, size_t memory_limit);
+std::vector<Guess> guess(Bytes message, size_t memory_limit, const Progress &progress = {});
 
 void write_guesses(const std::vector<Guess> &guesses, size_t message_size, const Palette &palette,
                    const Sink &sink);
@@ -48,7 +50,7 @@ struct Refusal {
 };
 
 // Those first that knew the most of the message up to where they stopped, or came furthest.
-std::vector<Refusal> refusals(Bytes message, size_t memory_limit);
+std::vector<Refusal> refusals(Bytes message, size_t memory_limit, const Progress &progress = {});
 
 // The first few of them.
 void write_refusals(const std::vector<Refusal> &refusals, const Palette &palette, const Sink &sink);

@@ -11,47 +11,45 @@ namespace inspect {
 
 namespace {
 
-constexpr size_t kIndent = 5; // of what stands behind a number
+constexpr size_t kNumberWidth = 3;
+constexpr size_t kIndent = kNumberWidth + 2; // of what stands behind a number
 constexpr size_t kRefusalsShown = 3;
 
-std::vector<std::string> lines_of_names(const ShapeClass &types)
-{
-    std::vector<std::string_view> names;
-    for (const RecordType *type : types)
-        names.push_back(type->short_name());
-    return lines_of_words(names, kScreenWidth - kIndent, "  ");
-}
-
-// A number in front of the first line, the names, and what is said of them.
-void write_entry(size_t number, const ShapeClass &types, std::string_view words, Ink ink,
+// A number in front of the first line, the names, and in brackets what is said of them.
+void write_entry(size_t number, const ShapeClass &types, const std::string &remark, Ink ink,
                  const Palette &palette, const Sink &sink)
 {
-    std::string start = fmt::format("{:>{}}  ", number, kIndent - 2);
-    for (const std::string &line : lines_of_names(types)) {
-        sink(palette.paint(Ink::quiet, start) + palette.paint(ink, line) + "\n");
-        start = std::string(kIndent, ' ');
+    std::vector<std::string_view> words;
+    for (const RecordType *type : types)
+        words.push_back(type->short_name());
+    words.emplace_back(remark);
+    const std::vector<std::string> lines = lines_of_words(words, kScreenWidth - kIndent, "  ");
+    for (const std::string &line : lines) {
+        const bool is_first = &line == &lines.front();
+        const size_t end = &line == &lines.back() ? line.size() - remark.size() : line.size();
+        const std::string start =
+            is_first ? fmt::format("{:>{}}  ", number, kNumberWidth) : std::string(kIndent, ' ');
+        sink(palette.paint(Ink::quiet, start) + palette.paint(ink, line.substr(0, end)) +
+             palette.paint(Ink::quiet, line.substr(end)) + "\n");
     }
-    for (const std::string &line : lines_of_text(words, kScreenWidth - kIndent))
-        sink(start + palette.paint(Ink::quiet, line) + "\n");
 }
 
-std::string shape_words(const ShapeClass &types)
+std::string remark_on(const Guess &guess)
 {
-    return types.size() == 1 ? "the only type of this shape"
-                             : fmt::format("{} types of this shape", types.size());
+    const size_t types = guess.types->size();
+    return fmt::format(
+        "({}{} of {})", types == 1 ? "" : fmt::format("{} types of this shape, ", types),
+        guess.members_present, counted(guess.types->front()->members.size(), "member"));
 }
 
-std::string seen(const Guess &guess, size_t message_size)
+// What guesses that follow each other have in common.
+std::string quality_of(const Guess &guess, size_t message_size)
 {
-    std::string words = guess.bytes_known == message_size
-                            ? "all known"
-                            : fmt::format("{} of {} bytes known", guess.bytes_known, message_size);
-    words += guess.is_canonical ? ", canonical" : ", not canonical";
-    words += fmt::format(", {} of {}", guess.members_present,
-                         counted(guess.types->front()->members.size(), "member"));
-    if (guess.has_odd_text)
-        words += ", odd text";
-    return fmt::format("{}; {}", words, shape_words(*guess.types));
+    std::string words =
+        guess.bytes_known == message_size
+            ? fmt::format("all known, {}", guess.is_canonical ? "canonical" : "not canonical")
+            : fmt::format("{} of {} known", guess.bytes_known, counted(message_size, "byte"));
+    return guess.has_odd_text ? words + ", odd text" : words;
 }
 
 size_t count_types(const std::vector<Guess> &guesses)
@@ -83,11 +81,16 @@ void write_guesses(const std::vector<Guess> &guesses, size_t message_size, const
                    const Sink &sink)
 {
     write_heading(guesses, message_size, palette, sink);
+    std::string last;
     size_t number = 0;
     for (const Guess &guess : guesses) {
-        const bool is_blind = message_size != 0 && guess.bytes_known == 0;
-        write_entry(++number, *guess.types, seen(guess, message_size),
-                    is_blind ? Ink::quiet : Ink::name, palette, sink);
+        const std::string quality = quality_of(guess, message_size);
+        if (quality != last)
+            sink(fmt::format("{}:\n", quality));
+        last = quality;
+        const bool is_blind = guess.bytes_known == 0 && message_size != 0;
+        write_entry(++number, *guess.types, remark_on(guess), is_blind ? Ink::quiet : Ink::name,
+                    palette, sink);
     }
 }
 
@@ -95,12 +98,15 @@ void write_refusals(const std::vector<Refusal> &refusals, const Palette &palette
 {
     const size_t shown = std::min(refusals.size(), kRefusalsShown);
     for (size_t i = 0; i < shown; i++) {
-        const Verdict &verdict = refusals[i].verdict;
-        const bool was_followed = verdict.result != WIRE_OK;
-        write_entry(i + 1, *refusals[i].types,
-                    fmt::format("{} known; {}", counted(refusals[i].bytes_known, "byte"),
-                                was_followed ? verdict.text() : verdict.reason),
-                    Ink::name, palette, sink);
+        const Refusal &refusal = refusals[i];
+        const bool was_followed = refusal.verdict.result != WIRE_OK;
+        write_entry(i + 1, *refusal.types,
+                    fmt::format("({} known)", counted(refusal.bytes_known, "byte")), Ink::name,
+                    palette, sink);
+        sink(std::string(kIndent, ' ') +
+             palette.paint(Ink::error,
+                           was_followed ? refusal.verdict.text() : refusal.verdict.reason) +
+             "\n");
     }
     if (shown < refusals.size())
         sink(palette.paint(Ink::quiet, fmt::format("and {} that knew less of it\n",

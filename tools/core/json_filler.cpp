@@ -231,7 +231,8 @@ std::byte *JsonFiller::add_element()
 // The library counts in 32 bits.
 std::byte *JsonFiller::take(size_t size)
 {
-    void *const block = size <= UINT32_MAX ? record_.arena().take(size) : nullptr;
+    const bool can_count = static_cast<uint32_t>(size) == size;
+    void *const block = can_count ? record_.arena().take(size) : nullptr;
     if (!block)
         fail("takes more than the memory limit");
     return static_cast<std::byte *>(block);

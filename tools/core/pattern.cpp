@@ -21,7 +21,9 @@ bool is_same_letter(char a, char b)
 
 bool is_within(std::string_view part, std::string_view text)
 {
-    return part.empty() || !std::ranges::search(text, part, is_same_letter).empty();
+    return std::search(text.begin(), text.end(), part.begin(), part.end(), is_same_letter) !=
+               text.end() ||
+           part.empty();
 }
 
 } // namespace

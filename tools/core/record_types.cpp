@@ -1892,21 +1892,21 @@ typedef struct tarn_calv_eid_st {
      R"text(// Location record. A member that never arrives keeps the default given here.
 message esd_location_info {
   // A 32-bit value.
-  optional uint32 field_1 = 1;
+  optional uint32 field_1 = 1 [default = 7];
   // A 32-bit value.
-  optional uint32 field_2 = 2;
+  optional uint32 field_2 = 2 [default = 1];
   // A 32-bit value, all ones unless set.
-  optional uint32 field_3 = 3;
+  optional uint32 field_3 = 3 [default = 4294967295];
   // A 32-bit value.
-  optional uint32 field_4 = 4;
+  optional uint32 field_4 = 4 [default = 1];
   // A 32-bit value, all ones unless set.
-  optional uint32 field_5 = 5;
+  optional uint32 field_5 = 5 [default = 4294967295];
   // A 32-bit value.
-  optional uint32 field_6 = 6;
+  optional uint32 field_6 = 6 [default = 1];
   // A 32-bit value, all ones unless set.
-  optional uint32 field_7 = 7;
+  optional uint32 field_7 = 7 [default = 4294967295];
   // A 32-bit value.
-  optional uint32 field_8 = 8;
+  optional uint32 field_8 = 8 [default = 0];
 }
 )text",
      R"text(/** Location record. A member that never arrives keeps the default given here. */

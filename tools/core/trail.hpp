@@ -27,13 +27,8 @@ public:
     const Step *next() const { return steps_.empty() ? nullptr : steps_.data(); }
     bool goes_to(const Member &member) const { return next() && next()->member == &member; }
 
-    // How it goes on in an embedded record, or in an element of a list.
-    Trail into(const Member &member, uint32_t index = 0) const
-    {
-        if (!goes_to(member) || (is_list(member.kind) && next()->index != index))
-            return {};
-        return Trail(steps_.subspan(1));
-    }
+    // How it goes on behind the next step.
+    Trail rest() const { return Trail(steps_.subspan(1)); }
 
 private:
     explicit Trail(std::span<const Step> steps) : leads_(true), steps_(steps) {}
@@ -63,6 +58,14 @@ inline bool is_entered(RecordView record, const Member &member, const Trail &tra
     return member.kind == Kind::message ||
            (member.kind == Kind::repeated_message && !record.has(member) &&
             trail.next()->index < record.count(member));
+}
+
+// How the trail goes on in an embedded record, or in an element of a list.
+inline Trail trail_into(RecordView record, const Member &member, uint32_t index, const Trail &trail)
+{
+    const bool is_there = is_entered(record, member, trail) &&
+                          (!is_list(member.kind) || trail.next()->index == index);
+    return is_there ? trail.rest() : Trail{};
 }
 
 // Whether there is something to show of a member.

@@ -36,11 +36,11 @@ struct Share {
     double from = 0;
     double to = 1;
 
-    Share part(size_t index, size_t count) const
+    // Of work that consists of `count` steps, those from `begin` to `end`.
+    Share steps(size_t begin, size_t end, size_t count) const
     {
-        const double width = (to - from) / static_cast<double>(count);
-        const double begin = from + width * static_cast<double>(index);
-        return {begin, begin + width};
+        const double step = (to - from) / static_cast<double>(count);
+        return {from + step * static_cast<double>(begin), from + step * static_cast<double>(end)};
     }
 };
 
@@ -100,14 +100,15 @@ void TreeWriter::write(RecordView record, const std::string &start, const Phrase
 void TreeWriter::write_rows(RecordView record, const TreeRows &rows, const Trail &trail,
                             const Guide &guide, Share share)
 {
+    size_t done = 0;
     for (const TreeRow &row : rows.rows) {
-        const auto index = static_cast<size_t>(&row - rows.rows.data());
-        const Share part = share.part(index, rows.rows.size());
-        const bool is_last = index + 1 == rows.rows.size();
+        const bool is_last = &row == &rows.rows.back();
+        const Share part = share.steps(done, done + row.elements, rows.elements);
+        done += row.elements;
         tell(part);
         if (row.member && row.member->kind == Kind::message) {
             write(record.child(*row.member), guide.branch(is_last), rows.line(row),
-                  trail.into(*row.member), guide.below(is_last), part);
+                  trail_into(record, *row.member, 0, trail), guide.below(is_last), part);
             continue;
         }
         write_line(guide.branch(is_last), rows.line(row));
@@ -135,21 +136,21 @@ void TreeWriter::write_records(RecordView record, const Member &list, const Trai
     const uint32_t count = elements_reached(record, list, trail);
     for (uint32_t i = 0; i < count; i++) {
         const bool is_last = i + 1 == count;
-        const Share part = share.part(i, count);
+        const Share part = share.steps(i, i + 1, count);
         tell(part);
         write(record.element(list, i), guide.branch(is_last), {Ink::quiet, fmt::format("[{}]", i)},
-              trail.into(list, i), guide.below(is_last), part);
+              trail_into(record, list, i, trail), guide.below(is_last), part);
     }
 }
 
 void TreeWriter::write_texts(RecordView record, const Member &list, uint32_t count,
                              const Guide &guide, Share share)
 {
-    const size_t label_width = fmt::formatted_size("[{}]  ", count);
+    const size_t label_width = fmt::formatted_size("[{}]  ", count - 1);
     const size_t room = guide.room() - std::min(guide.room(), label_width);
     for (uint32_t i = 0; i < count; i++) {
         const bool is_last = i + 1 == count;
-        tell(share.part(i, count));
+        tell(share.steps(i, i + 1, count));
         const char *const text = record.text_at(list, i);
         const std::string label = fmt::format("{:<{}}", fmt::format("[{}]", i), label_width);
         Phrase line(Ink::quiet, label);

@@ -74,6 +74,7 @@ void fill_list(TreeRow &row, RecordView record, const Trail &trail)
     }
     row.value = {Ink::quiet, words};
     row.has_block = reached != 0;
+    row.elements = std::max<uint32_t>(reached, 1);
 }
 
 void fill(TreeRow &row, RecordView record, const Trail &trail, size_t room)
@@ -106,7 +107,9 @@ void add_stop(TreeRows &out, RecordView record, const Trail &trail)
     const Step *next = trail.next();
     if (!trail.ends_here() && (!next || is_entered(record, *next->member, trail)))
         return;
-    const std::string label = next ? path_text({*next}) : std::string{};
+    std::string label = next ? path_text({*next}) : std::string{};
+    if (next && record.has(*next->member))
+        label = next->member->name;
     out.rows.push_back({nullptr, label, {Ink::error, "decoding stopped here"}, {}});
 }
 
@@ -207,9 +210,11 @@ TreeRows rows_of(RecordView record, const Trail &trail, size_t width)
     for (TreeRow &row : out.rows)
         if (row.member)
             fill(row, record, trail, room);
-    for (const TreeRow &row : out.rows)
+    for (const TreeRow &row : out.rows) {
+        out.elements += row.elements;
         if (!row.kind.empty() && row.value.width() <= kWidestAligned)
             out.value_width = std::max(out.value_width, row.value.width());
+    }
     return out;
 }
 

@@ -20,6 +20,7 @@ struct TreeRow {
     Phrase value;
     Phrase kind;
     bool has_block = false; // the value follows, in lines of its own
+    size_t elements = 1;    // what it is in size, as far as that is known
 };
 
 // Aligned in three columns.
@@ -27,6 +28,7 @@ struct TreeRows {
     std::vector<TreeRow> rows;
     size_t label_width = 0;
     size_t value_width = 0;
+    size_t elements = 0;
 
     Phrase line(const TreeRow &row) const;
     // Where values begin.

@@ -6,6 +6,24 @@
 
 namespace inspect {
 
+namespace {
+
+constexpr size_t kQuotes = 2;
+
+bool is_letter_or_digit(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+}
+
+// Of a character, or of a byte that belongs to none.
+size_t quoted_width(std::string_view unit)
+{
+    const bool is_plain = unit.size() == 1 && (unit[0] == ' ' || is_letter_or_digit(unit[0]));
+    return is_plain ? 1 : screen_width(quoted(unit)) - kQuotes;
+}
+
+} // namespace
+
 Phrase number_value(Kind kind, uint64_t number)
 {
     if (kind == Kind::boolean) {
@@ -22,26 +40,13 @@ Phrase text_value(const char *text)
     return text ? Phrase(Ink::text, quoted(text)) : Phrase(Ink::note, "(null)");
 }
 
-size_t unit_size(std::string_view text)
-{
-    constexpr size_t kLongest = 4;
-    const auto continues = [text](size_t i) { return (text[i] & '\xC0') == '\x80'; };
-    size_t size = 1;
-    if (static_cast<uint8_t>(text[0]) < 0xC0)
-        return size;
-    while (size < std::min(text.size(), kLongest) && continues(size))
-        size++;
-    return size;
-}
-
 std::string_view fitting_part(std::string_view text, size_t width)
 {
-    constexpr size_t kQuotes = 2;
     size_t used = kQuotes;
     size_t end = 0;
     while (end < text.size()) {
-        const size_t size = unit_size(text.substr(end));
-        used += screen_width(quoted(text.substr(end, size))) - kQuotes;
+        const size_t size = std::max<size_t>(1, character_size(text.substr(end)));
+        used += quoted_width(text.substr(end, size));
         if (used > width && end != 0)
             break;
         end += size;

@@ -16,10 +16,6 @@ Phrase number_value(Kind kind, uint64_t number);
 // In quotes, or "(null)".
 Phrase text_value(const char *text);
 
-// The length of the character that `text` begins with, or of the bytes there that belong to none: a
-// text cut behind it is not cut within a character.
-size_t unit_size(std::string_view text);
-
 // As much of the text as fits into `width` columns with its quotes and escapes, but at least one
 // character.
 std::string_view fitting_part(std::string_view text, size_t width);

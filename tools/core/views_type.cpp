@@ -106,7 +106,8 @@ void write_members(const RecordType &type, const Palette &palette, const Sink &s
     table.add(std::move(heading));
     for (const Member &member : type.members)
         add_member(table, member);
-    add_row(table, {}, {Ink::quiet, counted(type.members.size(), "flag")}, {}, type.flags, "");
+    add_row(table, {}, {Ink::quiet, fmt::format("flags ({})", type.members.size())}, {}, type.flags,
+            "");
     add_row(table, {}, {Ink::quiet, "size in bytes"}, {}, type.sizes, "");
     table.write(kIndent, palette, sink);
 }
