@@ -3,11 +3,13 @@
 
 #pragma once
 
+#include "tests/tools/hex_bytes.hpp"
 #include "tools/core/error.hpp"
 #include "tools/core/json.hpp"
 
 #include <cstddef>
 #include <cstdint>
+#include <gtest/gtest.h>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,6 +52,36 @@ inline std::string error_of(std::string_view type, std::string_view json,
     } catch (const Error &error) {
         return error.what();
     }
+}
+
+// A text and the bytes that it says.
+struct Read {
+    std::string_view type;
+    std::string_view json;
+    std::string_view message;
+};
+
+template <size_t count>
+void expect_read(const Read (&cases)[count], const JsonOptions &options = {})
+{
+    for (const Read &test_case : cases)
+        EXPECT_EQ(encoded(test_case.type, test_case.json, options), from_hex(test_case.message))
+            << test_case.json;
+}
+
+// A text and what is wrong with it.
+struct Refused {
+    std::string_view type;
+    std::string_view json;
+    std::string_view error;
+};
+
+template <size_t count>
+void expect_refused(const Refused (&cases)[count], const JsonOptions &options = {})
+{
+    for (const Refused &test_case : cases)
+        EXPECT_EQ(error_of(test_case.type, test_case.json, options), test_case.error)
+            << test_case.json;
 }
 
 } // namespace inspect

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <set>
+#include <sstream>
 
 namespace inspect {
 
@@ -73,6 +74,17 @@ TEST(json_vectors, need_none_of_types_without_members_which_come_back_empty)
         without_members++;
     }
     EXPECT_EQ(without_members, 24u);
+}
+
+TEST(json_page, has_an_example_as_it_is_written)
+{
+    std::ostringstream page;
+    page << std::ifstream(TARN_SOURCE_DIR "/docs/inspect-json.md").rdbuf();
+    const std::string text = page.str();
+    const std::string begin = "```json\n";
+    const size_t at = text.find(begin) + begin.size();
+    const std::string example = text.substr(at, text.find("```", at) - at);
+    EXPECT_EQ(written(read(*find_type("switch_info"), example).view(), {}), example);
 }
 
 } // namespace

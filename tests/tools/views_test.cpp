@@ -24,10 +24,15 @@ std::vector<std::string> lines_of(const std::string &text)
     return lines;
 }
 
-std::vector<std::string> words_of(const std::string &line)
+std::vector<std::string> words_of(std::string_view line)
 {
-    std::istringstream in(line);
-    return {std::istream_iterator<std::string>(in), {}};
+    std::vector<std::string> words;
+    size_t end = 0;
+    for (size_t at; (at = line.find_first_not_of(' ', end)) != std::string_view::npos;) {
+        end = std::min(line.find(' ', at), line.size());
+        words.emplace_back(line.substr(at, end - at));
+    }
+    return words;
 }
 
 template <typename Write>

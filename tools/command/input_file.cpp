@@ -33,7 +33,7 @@ std::string shown(const std::string &name)
     throw Failure(kNoInput, fmt::format("cannot read {}: {}", shown(name), reason));
 }
 
-[[noreturn]] void refuse(const std::string &name)
+[[noreturn]] void refuse_length(const std::string &name)
 {
     throw Failure(kUnreadable, fmt::format("{} is longer than 4294967295 bytes", shown(name)));
 }
@@ -77,7 +77,7 @@ InputFile::InputFile(const std::string &name)
     const Descriptor file(name);
     const uint64_t expected = size_of(file.number());
     if (expected > kMostBytes)
-        refuse(name);
+        refuse_length(name);
     // With room for one byte more, so that the end is met without growing.
     grow(std::max<size_t>(static_cast<size_t>(expected) + 1, kFirstCapacity));
     read_all(file.number(), name);
@@ -102,7 +102,7 @@ void InputFile::read_all(int file, const std::string &name)
         else if (errno != EINTR)
             fail(name);
         if (size_ > kMostBytes)
-            refuse(name);
+            refuse_length(name);
     }
 }
 

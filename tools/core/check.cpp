@@ -42,7 +42,7 @@ private:
     std::vector<Finding> &findings_;
 };
 
-Finding first_difference(Bytes message, Bytes again)
+Finding other_encoding(Bytes message, Bytes again)
 {
     const auto [ours, theirs] = std::ranges::mismatch(message, again);
     const auto offset = static_cast<uint32_t>(ours - message.begin());
@@ -146,7 +146,7 @@ Check check(const RecordType &type, Bytes message, size_t memory_limit)
     const std::vector<uint8_t> again = record.encode();
     out.is_canonical = std::ranges::equal(message, again);
     if (!out.is_canonical)
-        out.findings.push_back(first_difference(message, again));
+        out.findings.push_back(other_encoding(message, again));
     const std::vector<Finding> gaps = beyond_json(record.view());
     out.fits_json = gaps.empty();
     out.findings.insert(out.findings.end(), gaps.begin(), gaps.end());

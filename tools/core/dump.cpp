@@ -13,7 +13,7 @@ namespace {
 constexpr size_t kBytesInLine = 8;
 constexpr size_t kLinesOfValue = 4; // then it is cut short
 constexpr size_t kCharactersOfText = 48;
-constexpr size_t kIndent = 2; // for each record around a piece
+constexpr size_t kGuideWidth = 2; // for each record around a piece
 constexpr size_t kKindWidth = 8;
 // Beyond that many, the progress is told once.
 constexpr uint32_t kPiecesAtATime = 4096;
@@ -46,11 +46,6 @@ std::string spaces(size_t count)
 std::string padded(std::string_view text, size_t width)
 {
     return std::string(text) + spaces(width - std::min(width, text.size()));
-}
-
-std::string counted(uint64_t count, std::string_view noun)
-{
-    return fmt::format("{} {}{}", count, noun, count == 1 ? "" : "s");
 }
 
 std::string_view wire_type_name(uint32_t wire_type)
@@ -122,7 +117,7 @@ public:
          const Progress &progress)
         : size_(size), options_(options), sink_(sink), progress_(progress),
           offset_width_(size > 0xFFFFFF ? 8 : 6),
-          bytes_width_(kBytesInLine * 3 + kIndent * nesting(type)),
+          bytes_width_(kBytesInLine * 3 + kGuideWidth * nesting(type)),
           path_width_(std::clamp<size_t>(longest_path(type), 12, 36))
     {}
 
@@ -145,7 +140,7 @@ public:
 
     bool visit(const Piece &piece) override
     {
-        const size_t indent = piece.depth * kIndent;
+        const size_t indent = piece.depth * kGuideWidth;
         const size_t first = std::min(kBytesInLine, piece.bytes.size());
         std::string line = offset(piece.offset) + "  " + guides(piece.depth) +
                            options_.palette.paint(ink_of(piece), hex(piece.bytes.first(first))) +

@@ -12,7 +12,7 @@ namespace inspect {
 namespace {
 
 constexpr size_t kNumberWidth = 3;
-constexpr size_t kIndent = kNumberWidth + 2; // of what stands behind a number
+constexpr size_t kTextColumn = kNumberWidth + 2; // of what stands behind a number
 constexpr size_t kRefusalsShown = 3;
 
 // A number in front of the first line, the names, and in brackets what is said of them.
@@ -23,12 +23,12 @@ void write_entry(size_t number, const ShapeClass &types, const std::string &rema
     for (const RecordType *type : types)
         words.push_back(type->short_name());
     words.emplace_back(remark);
-    const std::vector<std::string> lines = lines_of_words(words, kScreenWidth - kIndent, "  ");
+    const std::vector<std::string> lines = lines_of_words(words, kScreenWidth - kTextColumn, "  ");
     for (const std::string &line : lines) {
         const bool is_first = &line == &lines.front();
         const size_t end = &line == &lines.back() ? line.size() - remark.size() : line.size();
-        const std::string start =
-            is_first ? fmt::format("{:>{}}  ", number, kNumberWidth) : std::string(kIndent, ' ');
+        const std::string start = is_first ? fmt::format("{:>{}}  ", number, kNumberWidth)
+                                           : std::string(kTextColumn, ' ');
         sink(palette.paint(Ink::quiet, start) + palette.paint(ink, line.substr(0, end)) +
              palette.paint(Ink::quiet, line.substr(end)) + "\n");
     }
@@ -103,7 +103,7 @@ void write_refusals(const std::vector<Refusal> &refusals, const Palette &palette
         write_entry(i + 1, *refusal.types,
                     fmt::format("({} known)", counted(refusal.bytes_known, "byte")), Ink::name,
                     palette, sink);
-        sink(std::string(kIndent, ' ') +
+        sink(std::string(kTextColumn, ' ') +
              palette.paint(Ink::error,
                            was_followed ? refusal.verdict.text() : refusal.verdict.reason) +
              "\n");

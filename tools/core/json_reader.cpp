@@ -13,7 +13,7 @@ namespace inspect {
 
 namespace {
 
-using nlohmann::json;
+using Parser = nlohmann::json;
 
 // What the parser tells, handed on. The names are the parser's.
 class Events {
@@ -30,18 +30,18 @@ public:
         filler_.boolean(value);
         return true;
     }
-    bool number_integer(json::number_integer_t value)
+    bool number_integer(Parser::number_integer_t value)
     {
         filler_.number(fmt::format_int(value).c_str());
         return true;
     }
-    bool number_unsigned(json::number_unsigned_t value)
+    bool number_unsigned(Parser::number_unsigned_t value)
     {
         filler_.number(fmt::format_int(value).c_str());
         return true;
     }
     // Exact only as a text, in which the point is as the locale has it.
-    bool number_float(json::number_float_t, std::string digits)
+    bool number_float(Parser::number_float_t, std::string digits)
     {
         const auto is_point = [](char c) {
             return std::string_view("0123456789+-eE").find(c) == std::string_view::npos;
@@ -55,7 +55,7 @@ public:
         filler_.string(value);
         return true;
     }
-    bool binary(const json::binary_t &) { return false; } // not in JSON
+    bool binary(const Parser::binary_t &) { return false; } // not in JSON
     bool start_object(size_t)
     {
         filler_.open_object();
@@ -82,7 +82,7 @@ public:
         return true;
     }
     bool parse_error(size_t characters_read, const std::string &token,
-                     const json::exception &exception)
+                     const Parser::exception &exception)
     {
         constexpr int kNumberOverflow = 406;
         if (exception.id == kNumberOverflow)
@@ -104,7 +104,7 @@ void read_json(std::string_view text, const JsonOptions &options, Record &record
         throw Error(json_zero_byte(text, offset));
     JsonFiller filler(options, record);
     Events events(text, filler);
-    json::sax_parse(JsonCharacters(text), JsonCharacters(text.substr(text.size())), &events);
+    Parser::sax_parse(JsonCharacters(text), JsonCharacters(text.substr(text.size())), &events);
 }
 
 } // namespace inspect

@@ -11,7 +11,7 @@ namespace inspect {
 
 namespace {
 
-bool is_blank(char c)
+bool is_json_blank(char c)
 {
     return c == ' ' || c == '\n' || c == '\r' || c == '\t';
 }
@@ -96,8 +96,8 @@ JsonCharacters &JsonCharacters::operator++()
     } else if (in_string_) {
         is_escaped_ = before == '\\';
         in_string_ = before != '"';
-    } else if (is_blank(before)) {
-        at_ = std::find_if_not(at_, end_, is_blank);
+    } else if (is_json_blank(before)) {
+        at_ = std::find_if_not(at_, end_, is_json_blank);
     } else {
         in_string_ = before == '"';
     }

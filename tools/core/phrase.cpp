@@ -102,9 +102,4 @@ std::vector<std::string> lines_of_text(std::string_view text, size_t width)
     return lines_of_words(words, width);
 }
 
-std::string counted(size_t count, std::string_view noun)
-{
-    return fmt::format("{} {}{}", count, noun, count == 1 ? "" : "s");
-}
-
 } // namespace inspect

@@ -69,7 +69,4 @@ std::vector<std::string> lines_of_words(const std::vector<std::string_view> &wor
 // The same for a text with blanks between its words.
 std::vector<std::string> lines_of_text(std::string_view text, size_t width);
 
-// "1 record", "2 records".
-std::string counted(size_t count, std::string_view noun);
-
 } // namespace inspect

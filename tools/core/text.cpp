@@ -109,6 +109,11 @@ std::string hex(Bytes bytes, std::string_view separator)
     return fmt::format("{:02x}", fmt::join(bytes, separator));
 }
 
+std::string counted(uint64_t count, std::string_view noun)
+{
+    return fmt::format("{} {}{}", count, noun, count == 1 ? "" : "s");
+}
+
 std::string_view nearest(std::string_view wanted, const std::vector<std::string_view> &candidates)
 {
     // A third of the letters may be wrong: beyond that, a guess is more of a puzzle than a help.

@@ -30,6 +30,9 @@ size_t character_size(std::string_view text);
 // "de ad be ef"; with `separator` between two bytes.
 std::string hex(Bytes bytes, std::string_view separator = " ");
 
+// "1 byte", "12 bytes".
+std::string counted(uint64_t count, std::string_view noun);
+
 // What is written nearest to `wanted` among the candidates; empty when nothing is near.
 std::string_view nearest(std::string_view wanted, const std::vector<std::string_view> &candidates);
 

@@ -10,7 +10,7 @@ namespace inspect {
 
 namespace {
 
-constexpr std::string_view kIndent = "  ";
+constexpr std::string_view kMargin = "  ";
 
 // As the schema has it, with the short name of what is nested.
 std::string kind_in_schema(const Member &member)
@@ -58,7 +58,7 @@ void write_names(const RecordType &type, const Palette &palette, const Sink &sin
     if (type.is_foreign)
         add("whose it is", "The sibling library's. Its layout is relied on; the field numbers are "
                            "an assumption, since they are that library's to define.");
-    table.write(kIndent, palette, sink);
+    table.write(kMargin, palette, sink);
 }
 
 // A number for each target in columns of their own.
@@ -95,7 +95,7 @@ void add_member(Table &table, const Member &member)
 void write_members(const RecordType &type, const Palette &palette, const Sink &sink)
 {
     if (type.members.empty()) {
-        sink(fmt::format("{}It has no fields, and no structure in C.\n", kIndent));
+        sink(fmt::format("{}It has no fields, and no structure in C.\n", kMargin));
         return;
     }
     Table table({Side::right, Side::left, Side::left, Side::right, Side::right, Side::right});
@@ -109,7 +109,7 @@ void write_members(const RecordType &type, const Palette &palette, const Sink &s
     add_row(table, {}, {Ink::quiet, fmt::format("flags ({})", type.members.size())}, {}, type.flags,
             "");
     add_row(table, {}, {Ink::quiet, "size in bytes"}, {}, type.sizes, "");
-    table.write(kIndent, palette, sink);
+    table.write(kMargin, palette, sink);
 }
 
 } // namespace
