@@ -118,7 +118,7 @@ public:
         : size_(size), options_(options), sink_(sink), progress_(progress),
           offset_width_(size > 0xFFFFFF ? 8 : 6),
           bytes_width_(kBytesInLine * 3 + kGuideWidth * nesting(type)),
-          path_width_(std::clamp<size_t>(longest_path(type), 12, 36))
+          path_width_(std::clamp<size_t>(longest_path(type), 12, 30))
     {}
 
     void heading(const RecordType &type, const Verdict &verdict)
