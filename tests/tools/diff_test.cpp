@@ -193,6 +193,18 @@ TEST(diff, shows_nothing_that_a_terminal_would_obey)
     }
 }
 
+// Where decoding stopped, the record around has content, and not its flag.
+TEST(diff, compares_what_would_be_written_flagged_or_not)
+{
+    const RecordType &type = *find_type("switch_info");
+    Record cut_off(type, kDiffMemory);
+    ASSERT_NE(cut_off.decode(bytes_of(piece(2, number(1, 7) + "\x10"))), WIRE_OK);
+    ASSERT_FALSE(cut_off.view().has(*type.member_of_name("identity")));
+    const Record empty(type, kDiffMemory);
+    EXPECT_EQ(difference(empty.view(), cut_off.view()).text, "+ identity.field_1          7\n");
+    EXPECT_EQ(difference(cut_off.view(), empty.view()).text, "- identity.field_1          7\n");
+}
+
 TEST(diff, tells_a_text_that_is_missing_from_an_empty_one)
 {
     const RecordType &type = *find_type("bcm_shell_cmd");

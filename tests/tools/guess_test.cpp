@@ -210,20 +210,20 @@ TEST(guess, takes_no_message_that_jumps_back_for_ever)
 // These records are hidden in unknown fields, so that only a jump gets there; one type has them.
 std::string jumps_too_often()
 {
-    constexpr uint32_t kRecord = 29; // in debug_get_health_state_rsp
-    constexpr uint32_t kUnknown = 2000;
-    constexpr uint32_t kJumps = 200;
-    constexpr uint32_t kSize = 7; // of a field with a record in it, and of a jump
+    constexpr size_t kRecord = 29; // in debug_get_health_state_rsp
+    constexpr size_t kUnknown = 2000;
+    constexpr size_t kJumps = 200;
+    constexpr size_t kSize = 7; // of a field with a record in it, and of a jump
     const std::string numbers = repeated(2000, number(1, 8));
     const auto jump_at = [&](size_t i) { return kJumps * kSize + numbers.size() + i * kSize; };
     const std::string unknown_tag = varint(kUnknown << 3 | 2);
     std::string message;
-    for (uint32_t i = 0; i < kJumps; i++) {
+    for (size_t i = 0; i < kJumps; i++) {
         const size_t length = jump_at(i + 1) - (i + 1) * kSize;
         message += piece(kUnknown, varint(kRecord << 3 | 2) + varint(length));
     }
     message += numbers;
-    for (uint32_t i = 0; i < kJumps; i++) {
+    for (size_t i = 0; i < kJumps; i++) {
         const uint64_t back = jump_at(i + 1) - (i * kSize + 3);
         message += unknown_tag + varint((uint64_t{1} << 32) - back);
     }

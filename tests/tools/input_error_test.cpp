@@ -17,8 +17,8 @@ struct Wrong {
 
 std::string error_of(std::string_view text, InputFormat format)
 {
-    std::vector<uint8_t> storage;
     try {
+        std::vector<uint8_t> storage;
         return hex(parse_input(text, format, storage));
     } catch (const Error &error) {
         return error.what();

@@ -81,7 +81,7 @@ TEST(output, makes_identifiers_of_names)
 
 TEST(output, is_recognised_and_read_back)
 {
-    for (size_t size : {0, 1, 2, 31, 32, 33, 64, 256}) {
+    for (const size_t size : std::vector<size_t>{0, 1, 2, 31, 32, 33, 64, 256}) {
         std::vector<uint8_t> bytes = all_bytes();
         bytes.resize(size);
         const std::pair<OutputFormat, InputFormat> formats[] = {

@@ -128,7 +128,7 @@ const Ended kEnded[] = {
      "at offset 0x0 (0): WIRE_ERR_WIRE_TYPE: unknown field 3: a group cannot be "
      "skipped"},
     {"port_enable", "0a 00",
-     "at offset 0x0 (0), in port: WIRE_ERR_TYPE_MISMATCH: a uint32 cannot come as something with a "
+     "at offset 0x0 (0), in port: WIRE_ERR_TYPE_MISMATCH: uint32 cannot come as something with a "
      "length"},
     {"port_enable", "1a 80",
      "at offset 0x1 (1): WIRE_ERR_MALFORMED: it ends inside unknown field 3"},
@@ -139,13 +139,13 @@ const Ended kEnded[] = {
     {"vlan_table_entry", "1a 05",
      "at offset 0x1 (1), in field_3: WIRE_ERR_MALFORMED: its length is 5, but 0 bytes are left"},
     {"vlan_table_entry", "1a 00 1a 00",
-     "at offset 0x2 (2), in field_3: WIRE_ERR_MALFORMED: the string comes twice"},
+     "at offset 0x2 (2), in field_3: WIRE_ERR_MALFORMED: it comes a second time"},
     {"vlan_table_entry", "10 05 08 01 10 06",
      "at offset 0x4 (4), in field_2[0]: WIRE_ERR_MALFORMED: the list goes on after another field"},
     {"vlan_table_entry", "10 05 10 80",
      "at offset 0x3 (3), in field_2[1]: WIRE_ERR_MALFORMED: an element reaches past the end"},
     {"sfp_summary_response", "12 02 08 01 12 02 0a 00",
-     "at offset 0x6 (6), in entries[1].field_1: WIRE_ERR_TYPE_MISMATCH: a uint32 cannot come as "
+     "at offset 0x6 (6), in entries[1].field_1: WIRE_ERR_TYPE_MISMATCH: uint32 cannot come as "
      "something with a length"},
     // The run is counted before its first element is looked at.
     {"sfp_summary_response", "12 02 0a 00 12 02 08",

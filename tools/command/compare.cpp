@@ -87,10 +87,15 @@ int run(const CheckArguments &arguments, Session &session)
 int run(const GuessArguments &arguments, Session &session)
 {
     return for_each_message(session, arguments.source, [&](const Message &message) {
-        const std::vector<Guess> found = guess(message.bytes, session.memory_limit());
+        const Progress told = progress(session, "guess", message);
+        const std::vector<Guess> found = guess(message.bytes, session.memory_limit(), told);
         write_heading(session, message);
         write_guesses(found, message.bytes.size(), session.palette(), session.sink());
-        return found.empty() ? kNotSo : kDone;
+        if (!found.empty())
+            return kDone;
+        write_refusals(refusals(message.bytes, session.memory_limit(), told), session.palette(),
+                       session.sink());
+        return kNotSo;
     });
 }
 

@@ -65,6 +65,6 @@ int run_guarded(int argc, const char *const *argv)
 int main(int argc, char **argv)
 {
     // A closed pipe is then an error of write(), which can be told from others.
-    std::signal(SIGPIPE, SIG_IGN);
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
     return inspect::command::run_guarded(argc, argv);
 }

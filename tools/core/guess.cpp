@@ -100,9 +100,7 @@ Trial try_type(const ShapeClass &types, Bytes message, size_t memory_limit)
 // The less, the likelier.
 auto rank(const Guess &guess, size_t message_size)
 {
-    const size_t unknown = message_size - guess.bytes_known;
-    const bool is_whole = unknown == 0 && guess.is_canonical;
-    return std::tuple(!is_whole, unknown, !guess.is_canonical, guess.has_odd_text,
+    return std::tuple(!guess.is_canonical, message_size - guess.bytes_known, guess.has_odd_text,
                       guess.bytes_opaque, guess.members_missing, SIZE_MAX - guess.types->size(),
                       guess.types->front()->short_name());
 }

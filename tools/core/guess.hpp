@@ -28,10 +28,8 @@ struct Guess {
 };
 
 // All classes whose types take the message, the likeliest first. That is, in this order:
-//  - all of the message is in fields that the type has, and encoding gives the same bytes again:
-//    a peer that knows the type has no reason to send anything else;
+//  - encoding gives the same bytes again, so that all of them are in fields that the type has;
 //  - more of the message is in fields that the type has;
-//  - encoding gives the same bytes again;
 //  - texts look like texts;
 //  - less of it is in byte strings: that a text or a record fits by chance is rarer;
 //  - fewer members are missing, at all depths: peers fill most of a record;

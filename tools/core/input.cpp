@@ -17,8 +17,8 @@ using Reader = void (*)(std::string_view, std::vector<uint8_t> &);
 
 bool takes(Reader reader, std::string_view input)
 {
-    std::vector<uint8_t> out;
     try {
+        std::vector<uint8_t> out;
         reader(input, out);
         return !out.empty();
     } catch (const Error &) {

@@ -10,7 +10,7 @@ namespace {
 
 bool is_base64(char c)
 {
-    return is_word(c) || c == '+' || c == '/' || c == '-' || c == '=';
+    return is_name_character(c) || c == '+' || c == '/' || c == '-' || c == '=';
 }
 
 // With the blanks around it. Others are between words, not in base64.

@@ -23,7 +23,7 @@ public:
         reader_.skip_space();
         if (cursor_.at_end())
             return;
-        if (is_digit(cursor_.peek()) || cursor_.peek() == '\'' || cursor_.peek() == '-')
+        if (is_decimal_digit(cursor_.peek()) || cursor_.peek() == '\'' || cursor_.peek() == '-')
             return read_list();
         skip_to_content();
         if (cursor_.skip_if("{"))
@@ -154,7 +154,7 @@ private:
     void compare_length()
     {
         reader_.skip_space();
-        if (!is_digit(cursor_.peek()))
+        if (!is_decimal_digit(cursor_.peek()))
             return;
         const size_t begin = cursor_.position();
         const uint64_t length = reader_.take_number();
@@ -180,8 +180,8 @@ void read_c_array(std::string_view input, std::vector<uint8_t> &out)
 
 bool is_c_array(std::string_view input)
 {
-    std::vector<uint8_t> out;
     try {
+        std::vector<uint8_t> out;
         ArrayReader reader(input, out);
         reader.read();
         return reader.is_certain();
@@ -195,7 +195,7 @@ bool begins_like_c_array(std::string_view input)
     CReader reader(input);
     try {
         reader.skip_words();
-        if (!reader.skip_sign("[") || is_digit(input[0]))
+        if (!reader.skip_sign("[") || is_decimal_digit(input[0]))
             return false;
         reader.skip_words();
         return reader.skip_sign("]") && reader.skip_sign("=") &&

@@ -29,7 +29,7 @@ void CReader::skip_space()
 
 void CReader::skip_words()
 {
-    for (skip_space(); is_word(cursor_.peek()) || cursor_.peek() == '*'; skip_space())
+    for (skip_space(); is_name_character(cursor_.peek()) || cursor_.peek() == '*'; skip_space())
         cursor_.skip();
 }
 
@@ -42,7 +42,7 @@ bool CReader::skip_sign(std::string_view sign)
 std::string_view CReader::take_word()
 {
     const size_t begin = cursor_.position();
-    while (is_word(cursor_.peek()))
+    while (is_name_character(cursor_.peek()))
         cursor_.skip();
     return cursor_.since(begin);
 }
@@ -75,7 +75,7 @@ uint8_t CReader::take_escape(Dialect dialect)
     if (c == 'x') {
         cursor_.skip();
         value = take_digits(16, dialect == Dialect::c ? SIZE_MAX : 2);
-    } else if (is_digit(c)) {
+    } else if (is_decimal_digit(c)) {
         value = take_digits(8, 3);
     } else {
         value = take_named_escape();

@@ -200,8 +200,8 @@ void read_dump(std::string_view input, std::vector<uint8_t> &out)
 
 bool is_dump(std::string_view input)
 {
-    std::vector<uint8_t> out;
     try {
+        std::vector<uint8_t> out;
         return try_radices(input, out) == Outcome::certain && !out.empty();
     } catch (const Error &) {
         return true;
@@ -210,8 +210,8 @@ bool is_dump(std::string_view input)
 
 bool begins_like_dump(std::string_view input)
 {
-    std::vector<uint8_t> out;
     try {
+        std::vector<uint8_t> out;
         DumpReader reader(input, 16, out);
         reader.read_first_line();
         return reader.has_mark() && !out.empty();

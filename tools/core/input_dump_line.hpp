@@ -22,7 +22,7 @@ DumpOffset take_offset(Cursor &line);
 // Appends the bytes of a line of which the offset was taken.
 class DumpLineReader {
 public:
-    DumpLineReader(Cursor line, bool has_colon, std::vector<uint8_t> &out)
+    DumpLineReader(const Cursor &line, bool has_colon, std::vector<uint8_t> &out)
         : line_(line), has_colon_(has_colon), out_(out), begin_(out.size())
     {}
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::array<uint8_t, 256> kDigits = [] {
     std::array<uint8_t, 256> digits{};
-    digits.fill(kNoDigit);
+    digits.fill(kNotHex);
     for (uint8_t i = 0; i < 10; i++)
         digits['0' + i] = i;
     for (uint8_t i = 0; i < 6; i++)

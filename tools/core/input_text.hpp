@@ -10,7 +10,7 @@
 
 namespace inspect {
 
-constexpr bool is_digit(char c)
+constexpr bool is_decimal_digit(char c)
 {
     return c >= '0' && c <= '9';
 }
@@ -18,17 +18,17 @@ constexpr bool is_blank(char c)
 {
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
-constexpr bool is_word(char c)
+constexpr bool is_name_character(char c)
 {
-    return is_digit(c) || c == '_' || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+    return is_decimal_digit(c) || c == '_' || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-constexpr uint32_t kNoDigit = 0xFF;
+constexpr uint32_t kNotHex = 0xFF;
 // Of a hexadecimal digit.
 uint32_t digit_value(char c);
 inline bool is_hex_digit(char c)
 {
-    return digit_value(c) != kNoDigit;
+    return digit_value(c) != kNotHex;
 }
 
 // The character in quotes, or its number when a terminal might obey it.

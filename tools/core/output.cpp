@@ -46,8 +46,8 @@ std::string identifier(std::string_view name)
 {
     std::string out(name);
     std::ranges::replace_if(
-        out, [](char c) { return !is_word(c); }, '_');
-    if (out.empty() || is_digit(out[0]))
+        out, [](char c) { return !is_name_character(c); }, '_');
+    if (out.empty() || is_decimal_digit(out[0]))
         out.insert(0, "message");
     return is_keyword(out) ? out + '_' : out;
 }

@@ -46,13 +46,25 @@ std::string escaped(char c)
     }
 }
 
+// Marks that turn the direction of writing, and with it the order in which a terminal shows a line.
+bool is_direction_mark(std::string_view character)
+{
+    if (character.size() != 3)
+        return false;
+    const auto last = static_cast<uint8_t>(character[2]);
+    if (character.starts_with("\xE2\x80"))
+        return last == 0x8E || last == 0x8F || (last >= 0xAA && last <= 0xAE);
+    return character.starts_with("\xE2\x81") && last >= 0xA6 && last <= 0xA9;
+}
+
 // Control characters of the second block are two bytes in UTF-8, and terminals obey them, too.
 bool is_shown(std::string_view character)
 {
     if (character.size() == 1)
         return character[0] >= ' ' && character[0] != '"' && character[0] != '\\' &&
                character[0] != 0x7F;
-    return !(character[0] == '\xC2' && static_cast<uint8_t>(character[1]) < 0xA0);
+    const bool is_control = character[0] == '\xC2' && static_cast<uint8_t>(character[1]) < 0xA0;
+    return !is_control && !is_direction_mark(character);
 }
 
 // How many characters have to be inserted, deleted, replaced or swapped with their neighbour.

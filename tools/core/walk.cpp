@@ -169,13 +169,12 @@ bool Walker::walk_field(Loop &loop, const Member &member, Tag tag, uint32_t &at)
         return false;
     if (!matches)
         return fail(WIRE_ERR_TYPE_MISMATCH, tag_at,
-                    fmt::format("a {} cannot come as {}", kind_words(member.kind),
+                    fmt::format("{} cannot come as {}", kind_words(member.kind),
                                 wire_type_words(tag.wire_type)));
     if (only_once && loop.has(member))
         return fail(WIRE_ERR_MALFORMED, tag_at,
-                    is_list(member.kind)
-                        ? "the list goes on after another field"
-                        : fmt::format("the {} comes twice", kind_words(member.kind)));
+                    is_list(member.kind) ? "the list goes on after another field"
+                                         : "it comes a second time");
     if (!(is_list(member.kind) ? walk_list(loop, member, at) : walk_content(loop, member, at)))
         return false;
     loop.present |= uint64_t{1} << member.bit;

@@ -38,8 +38,8 @@ void require_same_again(Bytes bytes, OutputFormat out, InputFormat in)
 // Returns how many bytes there are, or nothing after an Error.
 std::optional<size_t> parse(std::string_view text, InputFormat format)
 {
-    std::vector<uint8_t> storage;
     try {
+        std::vector<uint8_t> storage;
         const Bytes bytes = parse_input(text, format, storage);
         if (format == InputFormat::raw)
             require(bytes.data() == reinterpret_cast<const uint8_t *>(text.data()), "raw is as is");

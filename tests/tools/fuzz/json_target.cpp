@@ -15,6 +15,11 @@ namespace {
 constexpr size_t kHeader = 4;
 constexpr size_t kEnough = size_t{1} << 22;
 
+size_t limit_of(uint8_t byte)
+{
+    return byte == 0 ? kEnough : size_t{16} * byte;
+}
+
 const RecordType &type_of(const uint8_t *header)
 {
     const size_t index = header[0] | size_t{header[1]} << 8;
@@ -72,7 +77,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (size < kHeader)
         return -1;
     const JsonOptions options = options_of(data[2]);
-    const size_t limit = data[3] == 0 ? kEnough : size_t{data[3]} * 16;
+    const size_t limit = limit_of(data[3]);
     const std::string_view json(reinterpret_cast<const char *>(data) + kHeader, size - kHeader);
     Record record(type_of(data), limit);
     if (fill(record, json, options, limit))
