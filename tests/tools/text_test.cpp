@@ -23,12 +23,17 @@ TEST(text, quotes_what_a_terminal_would_obey)
          "31m",
          R"("\xc2\x9b31m")"}, // one character that begins a control sequence
         {"\xff\xc3", R"("\xff\xc3")"},
-        {"a\xe2\x80\xae"
-         "b",
-         "\"a\\xe2\\x80\\xaeb\""}, // would turn the direction of writing
     };
     for (const auto &[text, expected] : cases)
         EXPECT_EQ(quoted(text), expected);
+}
+
+TEST(text, quotes_marks_that_turn_the_direction_of_writing)
+{
+    for (const char last : {'\x8e', '\x8f', '\xaa', '\xae'}) {
+        const std::string mark = {'\xe2', '\x80', last};
+        EXPECT_EQ(inspect::quoted(mark).size(), 14U) << int{last};
+    }
 }
 
 TEST(text, knows_utf8)
