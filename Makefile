@@ -3,7 +3,7 @@
 
 JOBS := $(shell nproc)
 
-.PHONY: all tools demo test bench regenerate check-generated format clean
+.PHONY: all tools demo test bench packages regenerate check-generated format clean
 
 all:
 	cmake --preset release
@@ -29,6 +29,11 @@ test:
 # Installs what is missing, and measures the library beside its peers on x86_64 and i686.
 bench:
 	@scripts/bench
+
+# Installs what is missing, and builds the Debian packages: build/packages.
+packages:
+	@scripts/install-packages packages
+	@scripts/package
 
 # After a change of the schema: writes the record files anew, or only compares.
 regenerate:

@@ -9,7 +9,7 @@
 #ifndef TARN_ETHSW_MGMT_CLASSIFICATION_H
 #define TARN_ETHSW_MGMT_CLASSIFICATION_H
 
-#include "runtime/record.h"
+#include "../runtime/record.h"
 
 /** Adds a PCL flow. Answered by tarn_ethsw_mgmt_add_pcl_flow_resp. */
 typedef struct tarn_ethsw_mgmt_add_pcl_flow {

@@ -9,8 +9,8 @@
 #ifndef TARN_ETHSW_MGMT_DIAGNOSTICS_H
 #define TARN_ETHSW_MGMT_DIAGNOSTICS_H
 
-#include "ethsw_mgmt/switch.h"
-#include "runtime/record.h"
+#include "switch.h"
+#include "../runtime/record.h"
 
 /** Runs a command of the bcm shell. Answered by tarn_ethsw_mgmt_bcm_shell_cmd_resp. */
 typedef struct tarn_ethsw_mgmt_bcm_shell_cmd {

@@ -8,13 +8,14 @@
 #ifndef TARN_ETHSW_MGMT_ETHSW_MGMT_H
 #define TARN_ETHSW_MGMT_ETHSW_MGMT_H
 
-#include "ethsw_mgmt/classification.h"
-#include "ethsw_mgmt/diagnostics.h"
-#include "ethsw_mgmt/forwarding.h"
-#include "ethsw_mgmt/hardware.h"
-#include "ethsw_mgmt/integrity.h"
-#include "ethsw_mgmt/queue.h"
-#include "ethsw_mgmt/sdr.h"
-#include "ethsw_mgmt/switch.h"
+#include "classification.h"
+#include "diagnostics.h"
+#include "forwarding.h"
+#include "hardware.h"
+#include "integrity.h"
+#include "queue.h"
+#include "sdr.h"
+#include "switch.h"
+#include "version.h"
 
 #endif

@@ -9,7 +9,7 @@
 #ifndef TARN_ETHSW_MGMT_FORWARDING_H
 #define TARN_ETHSW_MGMT_FORWARDING_H
 
-#include "runtime/record.h"
+#include "../runtime/record.h"
 
 /** Configures the bridge counters. Answered by tarn_ethsw_mgmt_bridge_cfg_counters_response. */
 typedef struct tarn_ethsw_mgmt_bridge_cfg_counters {

@@ -9,7 +9,7 @@
 #ifndef TARN_ETHSW_MGMT_HARDWARE_H
 #define TARN_ETHSW_MGMT_HARDWARE_H
 
-#include "runtime/record.h"
+#include "../runtime/record.h"
 
 /**
  * Asks for the PHY poll mode; carries nothing. Answered by

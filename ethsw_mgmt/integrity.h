@@ -9,8 +9,8 @@
 #ifndef TARN_ETHSW_MGMT_INTEGRITY_H
 #define TARN_ETHSW_MGMT_INTEGRITY_H
 
-#include "ethsw_mgmt/switch.h"
-#include "runtime/record.h"
+#include "switch.h"
+#include "../runtime/record.h"
 
 /**
  * One entry of the data-integrity error history. Element of

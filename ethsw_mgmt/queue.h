@@ -9,7 +9,7 @@
 #ifndef TARN_ETHSW_MGMT_QUEUE_H
 #define TARN_ETHSW_MGMT_QUEUE_H
 
-#include "runtime/record.h"
+#include "../runtime/record.h"
 
 /** Clears the transmit-queue statistics. Answered by tarn_ethsw_mgmt_clear_txq_stats_resp. */
 typedef struct tarn_ethsw_mgmt_clear_txq_stats {

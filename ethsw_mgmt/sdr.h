@@ -9,7 +9,7 @@
 #ifndef TARN_ETHSW_MGMT_SDR_H
 #define TARN_ETHSW_MGMT_SDR_H
 
-#include "runtime/record.h"
+#include "../runtime/record.h"
 
 /** Asks for the SDR definitions. Answered by tarn_ethsw_mgmt_sdr_info. */
 typedef struct tarn_ethsw_mgmt_get_sdr_info {

@@ -9,8 +9,8 @@
 #ifndef TARN_ETHSW_MGMT_SWITCH_H
 #define TARN_ETHSW_MGMT_SWITCH_H
 
-#include "foreign/foreign.h"
-#include "runtime/record.h"
+#include "../foreign/foreign.h"
+#include "../runtime/record.h"
 
 /** Bare result answer; it belongs to no one request by name. */
 typedef struct tarn_ESD_MGMT_RESULT_resp {

@@ -37,6 +37,14 @@ std::string doc_comment(const std::string &text, const std::string &indent)
     return indent + "/**\n" + wrapped(text, indent + " * ") + indent + " */\n";
 }
 
+// Never from the include path: see runtime/record.h. All generated headers stand in one folder.
+std::string include_line(const std::string &path)
+{
+    const std::string folder = "ethsw_mgmt/";
+    const bool is_neighbour = path.compare(0, folder.size(), folder) == 0;
+    return "#include \"" + (is_neighbour ? path.substr(folder.size()) : "../" + path) + ".h\"\n";
+}
+
 std::string member_lines(const Member &member)
 {
     std::string out = doc_comment("Field " + std::to_string(member.number) + ", " +
@@ -79,8 +87,8 @@ std::string c_header(const File &file)
     std::string out = banner(file.path + ".proto", file.comment);
     out += "\n#ifndef " + name + "\n#define " + name + "\n\n";
     for (const std::string &import : file.imports)
-        out += "#include \"" + import + ".h\"\n";
-    out += "#include \"runtime/record.h\"\n";
+        out += include_line(import);
+    out += include_line("runtime/record");
     for (const Record &record : file.records)
         out += "\n" + structure(record) + "TARN_DECLARE_OPERATIONS(" + record.name + ");\n";
     return out + "\n#endif\n";
@@ -94,9 +102,10 @@ std::string umbrella_header(const std::vector<File> &files)
     std::vector<std::string> paths;
     for (const File &file : files)
         paths.push_back(file.path);
+    paths.push_back("ethsw_mgmt/version"); // written by hand
     std::sort(paths.begin(), paths.end());
     for (const std::string &path : paths)
-        out += "#include \"" + path + ".h\"\n";
+        out += include_line(path);
     return out + "\n#endif\n";
 }
 

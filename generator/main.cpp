@@ -99,6 +99,11 @@ private:
             write_file(context, std::string("abi/") + target.name + ".def",
                        abi_table(every_record(files, foreign), target));
         write_file(context, "tests/catalogue/record_types.cpp", test_tables(files));
+        for (const File &file : files)
+            write_file(context, operations_header_path(file), operations_header(file));
+        write_file(context, operations_header_path(foreign), operations_header(foreign));
+        write_file(context, "cxx/ethsw_mgmt.hpp", operations_umbrella(files));
+        write_file(context, "tests/cxx/record_types.cpp", operations_test_rows(files));
         write_file(context, "tools/core/record_types.cpp", inspector_tables(files, foreign));
     }
 };

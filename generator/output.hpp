@@ -16,10 +16,16 @@ std::string c_header(const File &file);    // the structures, for C and C++ call
 std::string field_lists(const File &file); // the fields, for the compiler
 std::string operations(const File &file);  // the exported functions
 
+// Of one .proto file, too: the operations by the type, for C++ callers.
+std::string operations_header_path(const File &file);
+std::string operations_header(const File &file);
+
 // Of all of them.
 std::string umbrella_header(const std::vector<File> &files);
 std::string exported_names(const std::vector<File> &files);
 std::string test_tables(const std::vector<File> &files);
+std::string operations_umbrella(const std::vector<File> &files);
+std::string operations_test_rows(const std::vector<File> &files);
 
 // Of these and of the records that others define.
 std::string inspector_tables(const std::vector<File> &files, const File &foreign);

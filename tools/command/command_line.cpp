@@ -13,6 +13,14 @@ namespace inspect::command {
 
 namespace {
 
+#ifdef TARN_SIBLING_INSIDE
+constexpr const char *kVersion =
+    "ethsw-inspect " TARN_VERSION "\nwith a stand-in for the sibling library: the field numbers "
+    "inside tarn_calv_eid_st and tarn_esd_location_info are an assumption";
+#else
+constexpr const char *kVersion = "ethsw-inspect " TARN_VERSION;
+#endif
+
 constexpr const char *kExamples =
     "\"ethsw-inspect VERB --help\" tells more. Types are named as in C, as in the schema, or "
     "short:\n"
@@ -86,7 +94,7 @@ void describe(CLI::App &app, CommandLine &line)
         "Looks at captured messages of the switch management interface, and makes some.");
     app.footer(kExamples);
     app.set_help_flag("--help,-h", "Print this and do nothing else");
-    app.set_version_flag("--version", "ethsw-inspect " TARN_VERSION)
+    app.set_version_flag("--version", kVersion)
         ->description("Print the version and do nothing else");
     app.get_formatter()->column_width(34);
     app.get_formatter()->label("SUBCOMMAND", "VERB");
