@@ -27,8 +27,8 @@ static void give_back(void *block, void *context)
 
 static void show(const char *when, const tarn_ethsw_mgmt_vlan_table_entry *entry)
 {
-    printf("%-24s %d blocks; %d %s; %d %u %s\n", when, blocks, entry->has_field_3,
-           entry->field_3 ? entry->field_3 : "null", entry->has_field_2,
+    printf("%-24s %d blocks; %d %s; %d %u %s\n", when, blocks, (int)entry->has_field_3,
+           entry->field_3 ? entry->field_3 : "null", (int)entry->has_field_2,
            (unsigned)entry->field_2_count, entry->field_2 ? "numbers" : "null");
 }
 
